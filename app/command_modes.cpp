@@ -1,0 +1,45 @@
+#include "command_modes.h"
+
+#include <ostream>
+
+#include "figures_command.h"
+
+namespace app {
+namespace {
+
+struct HeadlessMode {
+  const char* option;
+  int (*run)(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+};
+
+int RunHelp(const std::vector<std::string>&, std::ostream& out, std::ostream&) {
+  out << UsageText();
+  return 0;
+}
+
+constexpr HeadlessMode kModes[] = {
+    {"--figures", RunFiguresCommand},
+    {"--help", RunHelp},
+    {"-h", RunHelp},
+};
+
+}  // namespace
+
+std::string UsageText() {
+  return "Usage:\n"
+         "  netrix --figures FILE\n"
+         "      Print the gain and stability figures of every point of FILE as CSV:\n"
+         "      f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs\n"
+         "  netrix --help\n"
+         "      Show this text.\n";
+}
+
+int RunHeadlessMode(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+  if (args.empty()) return -1;
+  for (const HeadlessMode& mode : kModes) {
+    if (args.front() == mode.option) return mode.run({args.begin() + 1, args.end()}, out, err);
+  }
+  return -1;
+}
+
+}  // namespace app

@@ -1,0 +1,140 @@
+#include "text_cursor.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+namespace numerics {
+namespace {
+
+bool IsLineBreakAt(std::string_view text, std::size_t pos) {
+  return text[pos] == '\n' || (text[pos] == '\r' && pos + 1 < text.size() && text[pos + 1] == '\n');
+}
+
+bool IsSeparator(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
+constexpr double kExactPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                        1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Shape of a decimal number: optional sign, digits with at most one point (at least one
+// digit), optional exponent with digits. Up to 19 significant digits are gathered.
+struct DecimalShape {
+  bool valid = false;
+  bool negative = false;
+  bool exact = true;  // all significant digits fit the 64-bit mantissa
+  std::uint64_t mantissa = 0;
+  long long exponent = 0;
+};
+
+void ScanMantissa(std::string_view t, std::size_t& i, DecimalShape& d, bool& anyDigit) {
+  int significant = 0;
+  bool afterPoint = false;
+  for (; i < t.size(); ++i) {
+    const char c = t[i];
+    if (c == '.' && !afterPoint) {
+      afterPoint = true;
+      continue;
+    }
+    if (!IsDigit(c)) break;
+    anyDigit = true;
+    if (significant < 19) {
+      d.mantissa = d.mantissa * 10 + static_cast<std::uint64_t>(c - '0');
+      significant += d.mantissa != 0;
+      d.exponent -= afterPoint;
+    } else {
+      d.exact = d.exact && c == '0';
+      d.exponent += !afterPoint;
+    }
+  }
+}
+
+// Scans from i to the end of the number; i is left on the first character after it.
+DecimalShape ScanDecimal(std::string_view t, std::size_t& i) {
+  DecimalShape d;
+  if (i < t.size() && (t[i] == '+' || t[i] == '-')) d.negative = t[i++] == '-';
+  bool anyDigit = false;
+  ScanMantissa(t, i, d, anyDigit);
+  if (!anyDigit) return d;
+  if (i < t.size() && (t[i] == 'e' || t[i] == 'E')) {
+    ++i;
+    bool negativeExponent = false;
+    if (i < t.size() && (t[i] == '+' || t[i] == '-')) negativeExponent = t[i++] == '-';
+    if (i == t.size() || !IsDigit(t[i])) return d;
+    long long e = 0;
+    for (; i < t.size() && IsDigit(t[i]); ++i) e = e < 100000 ? e * 10 + (t[i] - '0') : e;
+    d.exponent += negativeExponent ? -e : e;
+  }
+  d.valid = true;
+  return d;
+}
+
+// Short numbers are converted exactly by one multiplication or division of exact doubles;
+// the rest go through the C library.
+double ToDouble(const DecimalShape& d, std::string_view text) {
+  if (d.exact && d.mantissa < (std::uint64_t{1} << 53) && d.exponent >= -22 && d.exponent <= 22) {
+    const double m = static_cast<double>(d.mantissa);
+    const double value = d.exponent < 0 ? m / kExactPowersOfTen[-d.exponent] : m * kExactPowersOfTen[d.exponent];
+    return d.negative ? -value : value;
+  }
+  return std::strtod(std::string(text).c_str(), nullptr);
+}
+
+}  // namespace
+
+bool TextCursor::AtEndOfLine() const { return AtEndOfFile() || IsLineBreakAt(text_, pos_); }
+
+std::optional<char> TextCursor::ReadChar() {
+  if (AtEndOfLine()) return std::nullopt;
+  return text_[pos_++];
+}
+
+void TextCursor::ConsumeLineBreak() {
+  if (AtEndOfFile()) return;
+  if (text_[pos_] == '\r' && pos_ + 1 < text_.size() && text_[pos_ + 1] == '\n') pos_ += 2;
+  else if (text_[pos_] == '\n') pos_ += 1;
+}
+
+void TextCursor::SkipLine() {
+  while (!AtEndOfLine()) ++pos_;
+  ConsumeLineBreak();
+}
+
+std::string TextCursor::ReadLine() {
+  const std::size_t start = pos_;
+  while (!AtEndOfLine()) ++pos_;
+  std::string line(text_.substr(start, pos_ - start));
+  ConsumeLineBreak();
+  return line;
+}
+
+std::optional<double> TextCursor::ReadReal() {
+  while (pos_ < text_.size() && IsSeparator(text_[pos_])) ++pos_;
+  if (pos_ >= text_.size()) return 0.0;
+  // A number as the runtime reads it; words such as "inf" and "nan" are not numbers here.
+  std::size_t end = pos_;
+  const DecimalShape d = ScanDecimal(text_, end);
+  if (!d.valid || (end < text_.size() && !IsSeparator(text_[end]))) return std::nullopt;
+  const double value = ToDouble(d, text_.substr(pos_, end - pos_));
+  pos_ = end;
+  return value;
+}
+
+int TextCursor::LineNumber() const {
+  return 1 + static_cast<int>(std::count(text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(pos_), '\n'));
+}
+
+std::string TextCursor::TokenAtCursor() const {
+  std::size_t end = pos_;
+  while (end < text_.size() && !IsSeparator(text_[end]) && end - pos_ < 40) ++end;
+  std::string token(text_.substr(pos_, end - pos_));
+  for (char& c : token) {
+    const auto u = static_cast<unsigned char>(c);
+    if (u < 32 || u >= 127) c = '?';
+  }
+  return token;
+}
+
+}  // namespace numerics

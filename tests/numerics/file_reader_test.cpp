@@ -1,0 +1,183 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "numerics/file_reader.h"
+
+namespace numerics {
+namespace {
+
+class FileReaderTest : public testing::Test {
+ protected:
+  std::string Write(const std::string& name, const std::string& content) {
+    const std::filesystem::path path = folder_ / name;
+    std::ofstream(path, std::ios::binary) << content;
+    return path.string();
+  }
+
+  const TwoPortDataSet& Load(const std::string& content) {
+    const LoadOutcome outcome = LoadTwoPortFile(store_, Write("data.s2p", content));
+    EXPECT_EQ(outcome.status, LoadStatus::Loaded) << outcome.message;
+    return store_.sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)];
+  }
+
+  void SetUp() override {
+    folder_ = std::filesystem::path(testing::TempDir()) /
+              ("reader_" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+    std::filesystem::create_directories(folder_);
+  }
+  void TearDown() override { std::filesystem::remove_all(folder_); }
+
+  std::filesystem::path folder_;
+  DataSetStore store_;
+};
+
+std::string Line(const std::string& frequency, double angle = 10) {
+  const std::string a = std::to_string(angle);
+  return frequency + " 0.5 " + a + " 2.0 " + a + " 0.1 " + a + " 0.4 " + a + "\n";
+}
+
+TEST_F(FileReaderTest, ReadsTitleFrequenciesAndParameters) {
+  const TwoPortDataSet& set = Load("My amplifier\n100M 0.9 -20 3.5 150 0.05 60 0.7 -30\n1.5G 0.8 -40 3 140 0.06 55 0.6 -40\n");
+  EXPECT_EQ(set.title, "My amplifier");
+  ASSERT_EQ(set.pointCount, 2);
+  EXPECT_DOUBLE_EQ(set.frequency[0], 1e8);
+  EXPECT_DOUBLE_EQ(set.frequency[1], 1.5e9);
+  const SParameters& p = set.points[1];  // file order S11, S21, S12, S22
+  EXPECT_EQ(p.s[0][0].form, ComplexForm::Polar);
+  EXPECT_DOUBLE_EQ(p.s[0][0].first, 0.8);
+  EXPECT_DOUBLE_EQ(p.s[1][0].first, 3);
+  EXPECT_DOUBLE_EQ(p.s[1][0].second, 140);
+  EXPECT_DOUBLE_EQ(p.s[0][1].first, 0.06);
+  EXPECT_DOUBLE_EQ(p.s[1][1].second, -40);
+  EXPECT_EQ(store_.openCount, 1);
+}
+
+struct CountCase {
+  const char* name;
+  std::string content;
+  int points;
+};
+
+class PointCountTest : public FileReaderTest, public testing::WithParamInterface<CountCase> {};
+
+TEST_P(PointCountTest, DropsTheLastRecord) { EXPECT_EQ(Load(GetParam().content).pointCount, GetParam().points); }
+
+std::string Lines(int count) {
+  std::string text = "title\n";
+  for (int i = 1; i <= count; ++i) text += Line(std::to_string(i * 1000));
+  return text;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, PointCountTest,
+    testing::Values(CountCase{"ThreeLines", Lines(3), 3}, CountCase{"NoFinalLineBreak", Lines(3).substr(0, Lines(3).size() - 1), 2},
+                    CountCase{"TitleOnly", "title", -1}, CountCase{"TitleAndLineBreak", "title\n", -1},
+                    CountCase{"EmptyFile", "", -1}, CountCase{"ThreeHundredLines", Lines(300), 253},
+                    CountCase{"BlankLinesBetween", "t\n" + Line("1k") + "\n   \n" + Line("2k"), 2},
+                    CountCase{"FallingFrequencyEndsData", "t\n" + Line("3k") + Line("4k") + Line("2k") + Line("5k"), 2},
+                    CountCase{"FieldWithoutDigits", "t\n" + Line("1k") + Line("x") + Line("5k"), 1}),
+    [](const testing::TestParamInfo<CountCase>& info) { return info.param.name; });
+
+TEST_F(FileReaderTest, UnwrapsAnglesAlongTheSweep) {
+  const TwoPortDataSet& down = Load("t\n" + Line("1k", 190) + Line("2k", -170) + Line("3k", -170));
+  EXPECT_DOUBLE_EQ(down.points[0].s[0][0].second, -170);  // folded once
+  EXPECT_DOUBLE_EQ(down.points[1].s[0][0].second, -170);
+  const TwoPortDataSet& up = Load("t\n" + Line("1k", 170) + Line("2k", -170) + Line("3k", -150));
+  EXPECT_DOUBLE_EQ(up.points[0].s[1][0].second, 170);
+  EXPECT_DOUBLE_EQ(up.points[1].s[1][0].second, 190);  // unwrapped beyond 180
+  EXPECT_DOUBLE_EQ(up.points[2].s[1][0].second, 210);   // against the stored, unwrapped neighbour
+}
+
+TEST_F(FileReaderTest, OnlyTheFirstLineMayBeAHeader) {
+  // The "!" line gives a point at 1 GHz whose numbers come from the next line.
+  const TwoPortDataSet& set = Load("t\n! comment\n100 0.5 10 2 20 0.1 30 0.4 40\n");
+  EXPECT_DOUBLE_EQ(set.frequency[0], 1e9);
+  EXPECT_DOUBLE_EQ(set.points[0].s[0][0].first, 100);
+  EXPECT_DOUBLE_EQ(set.points[0].s[0][0].second, 0.5);
+}
+
+TEST_F(FileReaderTest, FrequencyFieldRules) {
+  const TwoPortDataSet& set = Load("t\n" + Line("2,5M") + Line("    1.5G") + Line("0"));
+  EXPECT_DOUBLE_EQ(set.frequency[0], 2.5e6);
+  EXPECT_DOUBLE_EQ(set.frequency[1], 1.5e9);   // leading blanks are skipped
+  EXPECT_DOUBLE_EQ(set.frequency[2], 1e-9);    // bounded below, and the sweep stops rising
+  // A field that ends its line loses its last character: "1000" reads as 100 Hz.
+  const TwoPortDataSet& cut = Load("t\n1000\n0.5 10 2 20 0.1 30 0.4 40\n" + Line("200"));
+  EXPECT_DOUBLE_EQ(cut.frequency[0], 100);
+  EXPECT_DOUBLE_EQ(cut.points[0].s[0][0].first, 0.5);
+}
+
+TEST_F(FileReaderTest, FrequencyMaximumCountsEveryRecordRead) {
+  Load("t\n" + Line("100M") + Line("300M"));
+  // The empty record after the last line break is read at the preset 1 GHz.
+  EXPECT_DOUBLE_EQ(store_.frequencyMaximum, 1e9);
+  Load("t\n" + Line("5G") + Line("7G"));
+  EXPECT_DOUBLE_EQ(store_.frequencyMaximum, 7e9);
+}
+
+TEST_F(FileReaderTest, WindowsLineEndsReadLikeUnix) {
+  std::string unix = "Title line\n" + Line("1M", 20) + Line("2M", -179) + Line("3M", 179);
+  std::string windows;
+  for (const char c : unix) windows += c == '\n' ? std::string("\r\n") : std::string(1, c);
+  const TwoPortDataSet a = Load(unix);
+  const TwoPortDataSet b = Load(windows);
+  EXPECT_EQ(b.title, "Title line");
+  ASSERT_EQ(a.pointCount, b.pointCount);
+  for (int i = 0; i < a.pointCount; ++i) {
+    EXPECT_EQ(a.frequency[i], b.frequency[i]);
+    for (int r = 0; r < 2; ++r)
+      for (int c = 0; c < 2; ++c) EXPECT_EQ(a.points[i].s[r][c].second, b.points[i].s[r][c].second);
+  }
+}
+
+TEST_F(FileReaderTest, FailedLoadsLeaveTheStoreAsItWas) {
+  Load("t\n" + Line("100M"));
+  const double maximum = store_.frequencyMaximum;
+  const std::string bad = Write("bad.s2p", "t\n" + Line("5G") + "6G 0.5 10 x 1 0 0 0 0\n");
+  const LoadOutcome unreadable = LoadTwoPortFile(store_, bad);
+  EXPECT_EQ(unreadable.status, LoadStatus::Unreadable);
+  EXPECT_NE(unreadable.message.find(bad), std::string::npos);
+  EXPECT_NE(unreadable.message.find("line 3"), std::string::npos) << unreadable.message;
+  EXPECT_NE(unreadable.message.find("\"x\""), std::string::npos);
+  EXPECT_EQ(store_.openCount, 1);
+  EXPECT_EQ(store_.frequencyMaximum, maximum);
+
+  const LoadOutcome missing = LoadTwoPortFile(store_, (folder_ / "none.s2p").string());
+  EXPECT_EQ(missing.status, LoadStatus::Missing);
+  EXPECT_EQ(missing.message, "File " + (folder_ / "none.s2p").string() + " is not present!");
+
+  EXPECT_EQ(LoadTwoPortFile(store_, folder_.string()).status, LoadStatus::Unreadable);  // a folder
+  EXPECT_EQ(LoadTwoPortFile(store_, Write("nul.s2p", std::string("t\n1k \0\x01\x02 3", 12))).status,
+            LoadStatus::Unreadable);
+  EXPECT_EQ(store_.openCount, 1);
+}
+
+TEST_F(FileReaderTest, AFifthFileIsRefused) {
+  const std::string file = Write("a.s2p", "t\n" + Line("1k"));
+  for (int i = 1; i <= 4; ++i) EXPECT_EQ(LoadTwoPortFile(store_, file).dataSetNumber, i);
+  const LoadOutcome fifth = LoadTwoPortFile(store_, file);
+  EXPECT_EQ(fifth.status, LoadStatus::StoreFull);
+  EXPECT_EQ(fifth.message, "No more than 4 files can be open!");
+  EXPECT_EQ(store_.openCount, 4);
+}
+
+TEST_F(FileReaderTest, HugeLinesAndManyBlankLinesEndQuickly) {
+  const std::string longLine(1 << 20, '7');
+  EXPECT_EQ(Load("t\n" + longLine + "\n").pointCount, 0);
+  EXPECT_EQ(Load("t\n" + std::string(1000000, '\n') + Line("1k")).pointCount, 1);  // blank lines are skipped
+}
+
+TEST(ReadFrequencyField, SkipsAtMostNineteenBlanks) {
+  const std::string nineteenBlanks = std::string(19, ' ') + "25 rest";
+  TextCursor nineteen(nineteenBlanks);
+  EXPECT_DOUBLE_EQ(ReadFrequencyField(nineteen), 25);
+  const std::string twentyBlanks = std::string(20, ' ') + "25 rest";
+  TextCursor twenty(twentyBlanks);
+  EXPECT_DOUBLE_EQ(ReadFrequencyField(twenty), 1e-9);  // the field is empty
+}
+
+}  // namespace
+}  // namespace numerics

@@ -1,0 +1,81 @@
+#pragma once
+
+// Two-port relations as textbooks write them, in std::complex, to check the program's own
+// arithmetic against an independent route.
+#include <array>
+#include <complex>
+
+#include "numerics/complex_value.h"
+#include "numerics/two_port_state.h"
+
+namespace textbook {
+
+using C = std::complex<long double>;
+struct M2 {
+  C a11, a12, a21, a22;
+};
+
+inline C FromValue(const numerics::ComplexValue& z) { return {numerics::Re(z), numerics::Im(z)}; }
+inline numerics::ComplexValue ToValue(C z) {
+  return numerics::MakeCartesian(static_cast<double>(z.real()), static_cast<double>(z.imag()));
+}
+inline C Polar(long double magnitude, long double degrees) {
+  return std::polar(magnitude, degrees * 3.14159265358979323846L / 180);
+}
+
+inline M2 FromMatrix(const numerics::Matrix2& m) {
+  return {FromValue(m.m11), FromValue(m.m12), FromValue(m.m21), FromValue(m.m22)};
+}
+
+inline M2 Multiply(const M2& x, const M2& y) {
+  return {x.a11 * y.a11 + x.a12 * y.a21, x.a11 * y.a12 + x.a12 * y.a22, x.a21 * y.a11 + x.a22 * y.a21,
+          x.a21 * y.a12 + x.a22 * y.a22};
+}
+inline M2 Inverse(const M2& x) {
+  const C d = x.a11 * x.a22 - x.a12 * x.a21;
+  return {x.a22 / d, -x.a12 / d, -x.a21 / d, x.a11 / d};
+}
+inline M2 Plus(const M2& x, long double s) { return {x.a11 + s, x.a12, x.a21, x.a22 + s}; }
+inline M2 Times(const M2& x, C s) { return {x.a11 * s, x.a12 * s, x.a21 * s, x.a22 * s}; }
+
+// Y = (1/z0)(I - S)(I + S)^-1 and Z = z0 (I + S)(I - S)^-1.
+inline M2 AdmittanceFromS(const M2& s, long double z0) {
+  return Times(Multiply(Plus(Times(s, -1), 1), Inverse(Plus(s, 1))), 1 / z0);
+}
+inline M2 ImpedanceFromS(const M2& s, long double z0) {
+  return Times(Multiply(Plus(s, 1), Inverse(Plus(Times(s, -1), 1))), z0);
+}
+inline M2 HybridFromZ(const M2& z) {
+  const C d = z.a11 * z.a22 - z.a12 * z.a21;
+  return {d / z.a22, z.a12 / z.a22, -z.a21 / z.a22, 1.0L / z.a22};
+}
+inline M2 ChainFromZ(const M2& z) {
+  const C d = z.a11 * z.a22 - z.a12 * z.a21;
+  return {z.a11 / z.a21, d / z.a21, 1.0L / z.a21, z.a22 / z.a21};
+}
+
+// Input reflection with load reflection gl, and output reflection with source reflection gs.
+inline C GammaIn(const M2& s, C gl) { return s.a11 + s.a12 * s.a21 * gl / (1.0L - s.a22 * gl); }
+inline C GammaOut(const M2& s, C gs) { return s.a22 + s.a12 * s.a21 * gs / (1.0L - s.a11 * gs); }
+
+inline long double Rollett(const M2& s) {
+  const C delta = s.a11 * s.a22 - s.a12 * s.a21;
+  return (1 - std::norm(s.a11) - std::norm(s.a22) + std::norm(delta)) / (2 * std::abs(s.a12 * s.a21));
+}
+
+// Transducer gain between source and load reflections gs and gl.
+inline long double TransducerGain(const M2& s, C gs, C gl) {
+  const C den = (1.0L - s.a11 * gs) * (1.0L - s.a22 * gl) - s.a12 * s.a21 * gs * gl;
+  return (1 - std::norm(gs)) * std::norm(s.a21) * (1 - std::norm(gl)) / std::norm(den);
+}
+
+// Mason's U from the admittance matrix (any reference impedance).
+inline long double MasonU(const M2& y) {
+  return std::norm(y.a21 - y.a12) / (4 * (y.a11.real() * y.a22.real() - y.a12.real() * y.a21.real()));
+}
+
+inline void SetS(numerics::TwoPortState& st, const M2& s) {
+  st.s = {ToValue(s.a11), ToValue(s.a12), ToValue(s.a21), ToValue(s.a22)};
+}
+
+}  // namespace textbook
