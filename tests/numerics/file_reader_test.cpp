@@ -150,7 +150,7 @@ TEST_F(FileReaderTest, FailedLoadsLeaveTheStoreAsItWas) {
   EXPECT_EQ(missing.message, "File " + (folder_ / "none.s2p").string() + " is not present!");
 
   EXPECT_EQ(LoadTwoPortFile(store_, folder_.string()).status, LoadStatus::Unreadable);  // a folder
-  EXPECT_EQ(LoadTwoPortFile(store_, Write("nul.s2p", std::string("t\n1k \0\x01\x02 3", 12))).status,
+  EXPECT_EQ(LoadTwoPortFile(store_, Write("nul.s2p", std::string("t\n1k \0\x01\x02 3", 10))).status,
             LoadStatus::Unreadable);
   EXPECT_EQ(store_.openCount, 1);
 }
