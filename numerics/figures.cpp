@@ -91,7 +91,7 @@ void Gains(const PointTerms& t, TwoPortFigures& fig) {
 
 // Mason's U. The cross term enters as |2 Re(S12 S21*)|, always subtracted, as the program
 // has always computed it; the ratio form squares |r| - 1 rather than taking |r - 1|^2.
-void MasonsU(const PointTerms& t, TwoPortFigures& fig) {
+void MasonsU(const TwoPortState& st, const PointTerms& t, TwoPortFigures& fig) {
   const ComplexValue& s12 = t.s.m12;
   const ComplexValue& s21 = t.s.m21;
   const Extended cross = Abs(Add(Mul(s12, Conj(s21)), Mul(s21, Conj(s12))));
@@ -100,7 +100,7 @@ void MasonsU(const PointTerms& t, TwoPortFigures& fig) {
   fig.u = den == 0 ? fig.mag : static_cast<double>(AbsSqr(difference) / den);
   if (difference.first == 0 && difference.second == 0) fig.u = fig.mag;
 
-  const ComplexValue r = Div(s21, s12);
+  const ComplexValue r = Div(st.s.m21, st.s.m12);  // the stored forms: measured data are Polar
   const Extended m = Abs(r);
   const Extended ratioDen = Extended{fig.k} * m - Re(r);
   fig.uRatio = std::fabs(ratioDen) < kRatioGuard ? 1.0 : static_cast<double>(((m - 1) * (m - 1) / 2) / ratioDen);
@@ -134,7 +134,7 @@ void ComputeTwoPortFigures(TwoPortState& st, const FigureInputs& in, TwoPortFigu
   RollettFactor(st, t, fig);
   GainCircles(in, t, fig);
   Gains(t, fig);
-  MasonsU(t, fig);
+  MasonsU(st, t, fig);
   ConjugateMatch(1 + t.s11Sqr - t.s22Sqr - t.deltaSqr, t.c1, fig.gammaMS);
   ConjugateMatch(1 + t.s22Sqr - t.s11Sqr - t.deltaSqr, t.c2, fig.gammaML);
   TerminatedResults(st, in, fig);

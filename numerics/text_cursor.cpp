@@ -29,26 +29,37 @@ struct DecimalShape {
   long long exponent = 0;
 };
 
-void ScanMantissa(std::string_view t, std::size_t& i, DecimalShape& d, bool& anyDigit) {
+// Works on locals so that the loop keeps them in registers; written back once at the end.
+void ScanMantissa(std::string_view t, std::size_t& index, DecimalShape& d, bool& anyDigit) {
+  std::uint64_t mantissa = 0;
+  long long exponent = 0;
   int significant = 0;
   bool afterPoint = false;
+  bool exact = true;
+  const std::size_t start = index;
+  std::size_t i = index;
   for (; i < t.size(); ++i) {
     const char c = t[i];
     if (c == '.' && !afterPoint) {
       afterPoint = true;
       continue;
     }
-    if (!IsDigit(c)) break;
-    anyDigit = true;
+    const unsigned digit = static_cast<unsigned char>(c) - '0';
+    if (digit > 9) break;
     if (significant < 19) {
-      d.mantissa = d.mantissa * 10 + static_cast<std::uint64_t>(c - '0');
-      significant += d.mantissa != 0;
-      d.exponent -= afterPoint;
+      mantissa = mantissa * 10 + digit;
+      significant += mantissa != 0;
+      exponent -= afterPoint;
     } else {
-      d.exact = d.exact && c == '0';
-      d.exponent += !afterPoint;
+      exact = exact && digit == 0;
+      exponent += !afterPoint;
     }
   }
+  anyDigit = i - start > static_cast<std::size_t>(afterPoint);
+  index = i;
+  d.mantissa = mantissa;
+  d.exponent = exponent;
+  d.exact = exact;
 }
 
 // Scans from i to the end of the number; i is left on the first character after it.

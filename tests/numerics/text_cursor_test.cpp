@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <optional>
+#include <random>
+#include <string>
+
+#include "numerics/text_cursor.h"
+
+namespace numerics {
+namespace {
+
+class ReadRealTest : public testing::TestWithParam<const char*> {};
+
+// Every well-formed number reads exactly as the C library converts it.
+TEST_P(ReadRealTest, AgreesWithStrtod) {
+  const std::string text = GetParam();
+  TextCursor in(text);
+  const std::optional<double> value = in.ReadReal();
+  ASSERT_TRUE(value.has_value()) << text;
+  EXPECT_EQ(*value, std::strtod(text.c_str(), nullptr)) << text;
+  EXPECT_TRUE(in.AtEndOfFile());
+}
+
+INSTANTIATE_TEST_SUITE_P(Numbers, ReadRealTest,
+                         testing::Values("0", "-0.5", "+2.25", ".5", "5.", "0.874031", "-179.85", "1e3", "1E+03",
+                                         "2.5e-7", "123456789012345678901234", "0.00000000000000000000000123",
+                                         "9007199254740993", "1e400", "1e-400", "12345678901234567890e-30",
+                                         "0.1234567890123456789012"));
+
+TEST(ReadReal, RefusesWhatIsNotANumberAndStaysOnIt) {
+  for (const char* text : {"abc", "1.2.3", "inf", "nan", "0x10", "1e", "1e+", "-", ".", "5,5", "3dB"}) {
+    const std::string content = text;
+    TextCursor in(content);
+    EXPECT_FALSE(in.ReadReal().has_value()) << text;
+    EXPECT_EQ(in.TokenAtCursor(), content);
+  }
+}
+
+TEST(ReadReal, SkipsBlanksTabsAndLineBreaksAndGivesZeroAtTheEnd) {
+  const std::string content = "  1.5\t-2\r\n\n 3e2  \n";
+  TextCursor in(content);
+  EXPECT_EQ(in.ReadReal(), 1.5);
+  EXPECT_EQ(in.ReadReal(), -2.0);
+  EXPECT_EQ(in.LineNumber(), 1);
+  EXPECT_EQ(in.ReadReal(), 300.0);
+  EXPECT_EQ(in.LineNumber(), 3);
+  EXPECT_EQ(in.ReadReal(), 0.0);
+  EXPECT_TRUE(in.AtEndOfFile());
+}
+
+TEST(ReadReal, ShortDecimalsAreCorrectlyRounded) {
+  std::mt19937_64 random(3);
+  for (int i = 0; i < 2000; ++i) {
+    const std::string text = std::to_string(random() % 100000000) + "." + std::to_string(random() % 1000000) + "e-" +
+                             std::to_string(random() % 20);
+    TextCursor in(text);
+    EXPECT_EQ(in.ReadReal(), std::strtod(text.c_str(), nullptr)) << text;
+  }
+}
+
+TEST(TextCursor, ReadsCharactersWithinALine) {
+  const std::string content = "ab\r\ncd";
+  TextCursor in(content);
+  EXPECT_EQ(in.ReadChar(), 'a');
+  EXPECT_EQ(in.ReadChar(), 'b');
+  EXPECT_FALSE(in.ReadChar().has_value());  // end of line: nothing consumed
+  EXPECT_TRUE(in.AtEndOfLine());
+  in.ConsumeLineBreak();
+  EXPECT_EQ(in.ReadLine(), "cd");
+  EXPECT_TRUE(in.AtEndOfFile());
+}
+
+}  // namespace
+}  // namespace numerics
