@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
 #include <memory>
 
 namespace mainwin {
@@ -21,11 +20,6 @@ std::string CannotRead(const std::string& path, const std::string& reason) {
 }  // namespace
 
 std::optional<std::string> ReadSeriesFile(const std::string& path, std::string& error) {
-  std::error_code ec;
-  if (std::filesystem::is_directory(path, ec)) {
-    error = CannotRead(path, "it is a folder");
-    return std::nullopt;
-  }
   std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), &std::fclose);
   if (!file) {
     error = CannotRead(path, std::strerror(errno));

@@ -90,13 +90,6 @@ TEST_F(SeriesCommandTest, AppliesTheOptions) {
   EXPECT_EQ(out_.str().find(a + kRow), std::string::npos) << out_.str();  // the inductance changes the row
 }
 
-TEST_F(SeriesCommandTest, ReportsFilesWithoutCurrentAndStillWritesTheTable) {
-  const std::string a = Device("a.s2p");
-  ASSERT_EQ(Run({"--x-axis", "id", a}), 0);
-  EXPECT_EQ(err_.str(), "Possibly the file " + a + " might be errorness (e.g. no Ic specified).\n");
-  EXPECT_NE(out_.str().find(a + "     0.000     2.67G"), std::string::npos) << out_.str();
-}
-
 TEST_F(SeriesCommandTest, TakesTheFirstFortyFilesAndRefusesTheNext) {
   std::vector<std::string> files;
   for (int i = 1; i <= 42; ++i) files.push_back(Device("d" + std::to_string(i) + ".s2p"));

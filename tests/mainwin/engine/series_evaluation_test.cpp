@@ -229,7 +229,7 @@ TEST(SeriesEvaluation, AnEmptyListAsksForFiles) {
 
 struct FailureCase {
   const char* name;
-  const char* content;  // nullptr: the file does not exist
+  const char* content;  // nullptr: the file does not exist; empty: a folder
   const char* expected;  // a part of the last message
 };
 
@@ -239,8 +239,9 @@ class UnreadableFileTest : public testing::TestWithParam<FailureCase> {};
 
 TEST_P(UnreadableFileTest, EndsTheEvaluationNamingTheFileAndKeepsTheArrays) {
   const std::string first = fixtures::WriteFixture("first.s2p", "! Vce=3V\n" + DataLine("1000", kPoints[0]));
-  const std::string bad = GetParam().content ? fixtures::WriteFixture("bad.s2p", GetParam().content)
-                                             : fixtures::FixturePath("missing.s2p");
+  const std::string bad = !GetParam().content        ? fixtures::FixturePath("missing.s2p")
+                          : *GetParam().content == 0 ? testing::TempDir()
+                                                     : fixtures::WriteFixture("bad.s2p", GetParam().content);
   SeriesList list;
   list.Append({first, bad, first});
   SeriesArrays arrays(2);
@@ -257,19 +258,10 @@ TEST_P(UnreadableFileTest, EndsTheEvaluationNamingTheFileAndKeepsTheArrays) {
 INSTANTIATE_TEST_SUITE_P(
     Files, UnreadableFileTest,
     testing::Values(FailureCase{"Missing", nullptr, "No such file or directory"},
+                    FailureCase{"Folder", "", "Is a directory"},
                     FailureCase{"NotANumber", "! Ic=1m\n1000 0.5 -30 4 abc 0.1 30 0.4 -20\n", ", line 2: \"abc\" is not a number"},
                     FailureCase{"NumberWithUnit", "! Ic=1m\n\n1000 0.5 -30 4 100deg 0.1 30 0.4 -20\n", ", line 3: \"100deg\""}),
     [](const testing::TestParamInfo<FailureCase>& info) { return std::string(info.param.name); });
-
-TEST(SeriesEvaluation, AFolderIsNoSeriesFile) {
-  SeriesList list;
-  list.Append({testing::TempDir()});
-  SeriesArrays arrays;
-  const SeriesEvaluation result = EvaluateSeries(list, DefaultSeriesSettings(), arrays);
-  EXPECT_FALSE(result.completed);
-  ASSERT_EQ(result.messages.size(), 1U);
-  EXPECT_NE(result.messages[0].find("it is a folder"), std::string::npos);
-}
 
 }  // namespace
 }  // namespace mainwin

@@ -43,10 +43,5 @@ TEST(TableCells, WritesEachColumnInItsFormat) {
   EXPECT_EQ(TableRowTexts("/m/a.s2p", file, settings).back(), "  0.600");  // 1000 * 1.5 mA / 2.5
 }
 
-TEST(TableCells, HeaderNamesTheEightColumns) {
-  EXPECT_STREQ(kTableHeader[0], "File Name");
-  EXPECT_STREQ(kTableHeader[7], "j/(mA/\u00B5m\u00B2)");
-}
-
 }  // namespace
 }  // namespace mainwin
