@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "figures_command.h"
+#include "series_command.h"
 
 namespace app {
 namespace {
@@ -19,6 +20,7 @@ int RunHelp(const std::vector<std::string>&, std::ostream& out, std::ostream&) {
 
 constexpr HeadlessMode kModes[] = {
     {"--figures", RunFiguresCommand},
+    {"--series", RunSeriesCommand},
     {"--help", RunHelp},
     {"-h", RunHelp},
 };
@@ -29,7 +31,8 @@ std::string UsageText() {
   return "Usage:\n"
          "  netrix --figures FILE\n"
          "      Print the gain and stability figures of every point of FILE as CSV:\n"
-         "      f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs\n"
+         "      f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs\n" +
+         SeriesUsageText() +
          "  netrix --help\n"
          "      Show this text.\n";
 }

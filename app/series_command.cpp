@@ -1,0 +1,66 @@
+#include "series_command.h"
+
+#include <ostream>
+
+#include "atomic_file.h"
+#include "mainwin/engine/series_evaluation.h"
+#include "mainwin/engine/spa_export.h"
+#include "series_options.h"
+
+namespace app {
+namespace {
+
+// The first 40 files make the series; a further one is refused with the list's own message.
+mainwin::SeriesList MakeSeries(const std::vector<std::string>& files, std::ostream& err) {
+  mainwin::SeriesList list;
+  list.Append(files);
+  if (files.size() > list.SeriesCount()) err << list.Append({files[list.SeriesCount()]}).message << '\n';
+  return list;
+}
+
+bool WriteTable(const std::string& content, const SeriesOptions& options, std::ostream& out, std::ostream& err) {
+  if (!options.outPath) {
+    out << content << std::flush;
+    if (!out) err << "netrix --series: the table could not be written to standard output.\n";
+    return static_cast<bool>(out);
+  }
+  std::string error;
+  if (WriteFileAtomically(*options.outPath, content, error)) return true;
+  err << error << '\n';
+  return false;
+}
+
+}  // namespace
+
+int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+  SeriesOptions options;
+  std::string error;
+  if (!ParseSeriesOptions(args, options, error)) {
+    err << "netrix --series: " << error << '\n';
+    return 1;
+  }
+  const mainwin::SeriesList list = MakeSeries(options.files, err);
+  mainwin::SeriesArrays arrays;
+  const mainwin::SeriesEvaluation evaluation = mainwin::EvaluateSeries(list, options.settings, arrays);
+  for (const std::string& message : evaluation.messages) err << message << '\n';
+  if (!evaluation.completed) return 1;
+  return WriteTable(mainwin::SpaContent(list, arrays, options.settings), options, out, err) ? 0 : 1;
+}
+
+std::string SeriesUsageText() {
+  return "  netrix --series [options] FILE...\n"
+         "      Evaluate up to 40 files of one transistor as a bias series, in the given order,\n"
+         "      and print the .spa table (I, fT, fmax, MAG/MSG, k, f(k>1) per file). Options:\n"
+         "      --fo TEXT            analysis frequency with unit prefix (default 2.0G)\n"
+         "      --multiplier Hz|MHz|GHz  unit of the files' frequency column (default MHz)\n"
+         "      --lgnd TEXT          ground inductance in H (default 100p)\n"
+         "      --with-lgnd          insert the ground inductance into the common lead\n"
+         "      --fmax-from-u        fmax from Mason's U instead of MAG/MSG\n"
+         "      --x-axis ic|id|fileno  x-axis choice; the current is read only with ic (default)\n"
+         "      --area TEXT          transistor area in square micrometres (default 1000)\n"
+         "      --density            add the current density j in mA per square micrometre\n"
+         "      --comment TEXT       text of the first line, after \"Data derived by lioraira: \"\n"
+         "      --out PATH           write the table to PATH (replaced only when complete)\n";
+}
+
+}  // namespace app

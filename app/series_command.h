@@ -1,0 +1,17 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace app {
+
+// netrix --series [options] FILE...: evaluates the files as one bias series and writes the
+// ".spa" table to out, or atomically to the file of --out. The series' messages go to err.
+// Returns the process exit status: 0 when the table was written, 1 otherwise.
+int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
+// The lines of netrix --help that describe the series mode.
+std::string SeriesUsageText();
+
+}  // namespace app

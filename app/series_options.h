@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "mainwin/engine/series_settings.h"
+
+namespace app {
+
+struct SeriesOptions {
+  mainwin::SeriesSettings settings = mainwin::DefaultSeriesSettings();
+  std::vector<std::string> files;
+  std::optional<std::string> outPath;
+};
+
+// Reads the options and file names of netrix --series. Options left out keep the series
+// page's defaults. On a mistake returns false and says in error what is wrong and how to fix it.
+bool ParseSeriesOptions(const std::vector<std::string>& args, SeriesOptions& options, std::string& error);
+
+}  // namespace app
