@@ -80,11 +80,16 @@ FileFigures ScanSeriesText(std::string_view content, const std::string& path, co
   st.z0 = settings.z0;
   FileFigures out;
   std::optional<AnalysisPoint> analysis;
+  double previous = -HUGE_VAL;
   for (SeriesLine line = ReadSeriesLine(in); line.kind != SeriesLineKind::EndOfFile; line = ReadSeriesLine(in)) {
     if (line.kind == SeriesLineKind::Comment && settings.xAxis == XAxisChoice::CurrentIc) {
       if (const std::optional<double> current = BiasCurrentFromComment(line.comment)) out.current = *current;
     }
     if (line.kind != SeriesLineKind::Data) continue;
+    // A frequency that does not rise starts the noise-parameter block of a Touchstone file;
+    // its lines are no S-parameters, and taken as such they would overwrite the figures.
+    if (line.frequency <= previous) break;
+    previous = line.frequency;
     ReadPointParameters(in, path, st);
     in.SkipLine();
     TakePoint(st, line.frequency * settings.multiplier, settings, analysis, out);

@@ -174,6 +174,15 @@ TEST(SeriesEvaluation, ReadsTheLastLineWithoutALineBreakAndIgnoresTextAfterTheNu
   EXPECT_NEAR(f.k, 1.2, 1e-12);
 }
 
+TEST(SeriesEvaluation, StopsAtTheNoiseParameterBlock) {
+  // Touchstone noise lines (f, NFmin, |Gopt|, angle Gopt, Rn/50) start again at a low frequency.
+  const std::string content = "! Ic=3m\n# MHz S MA R 50\n" + DataLine("1000", kPoints[0]) +
+                              DataLine("2000", kPoints[1]) + "! noise\n500 1.2 0.4 30 0.3\n900 1.3 0.38 35 0.28\n";
+  const FileFigures f = Evaluate(content, Settings(2.5e9, 1e6));
+  EXPECT_NEAR(f.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e9L), 1, 1e-12);
+  EXPECT_NEAR(f.k, textbook::Rollett(kPoints[1].Matrix()), 1e-12);
+}
+
 struct CurrentChoiceCase {
   const char* name;
   const char* comments;
