@@ -48,6 +48,7 @@ TSDIAppForm::TSDIAppForm(FormSet& forms, const QStringList& arguments)
   BuildToolBar();
   setCentralWidget(BuildNotebook());
   statusBar()->setObjectName("StatusBar");
+  statusBar()->setSizeGripEnabled(false);
   setFixedSize(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
   FormCreate(arguments);
 }
@@ -56,6 +57,14 @@ QWidget* TSDIAppForm::BuildNotebook() {
   auto* central = new QWidget(this);
   tabSet1_ = new QTabBar(central);
   tabSet1_->setObjectName("TabSet1");
+  // Six captions side by side must fit the fixed width: a smaller, condensed font, and where that
+  // is not enough the longest captions shortened on screen (the tool tip holds the whole caption).
+  QFont tabFont = tabSet1_->font();
+  tabFont.setPixelSize(11);
+  tabFont.setStretch(QFont::Condensed);
+  tabSet1_->setFont(tabFont);
+  tabSet1_->setUsesScrollButtons(false);
+  tabSet1_->setElideMode(Qt::ElideRight);
   tabSet1_->setExpanding(false);
   notebook1_ = new QStackedWidget(central);
   notebook1_->setObjectName("Notebook1");
@@ -84,7 +93,10 @@ QWidget* TSDIAppForm::BuildNotebook() {
 }
 
 void TSDIAppForm::FormCreate(const QStringList& arguments) {
-  for (int i = 0; i < notebook1_->count(); ++i) tabSet1_->addTab(notebook1_->widget(i)->windowTitle());
+  for (int i = 0; i < notebook1_->count(); ++i) {
+    tabSet1_->addTab(notebook1_->widget(i)->windowTitle());
+    tabSet1_->setTabToolTip(i, notebook1_->widget(i)->windowTitle());
+  }
   connect(tabSet1_, &QTabBar::currentChanged, this, &TSDIAppForm::TabSet1Click);
   auto* table = findChild<controls::TStringAlignGrid*>("StringAlignGridTab");
   for (int column = 0; column < std::ssize(kTableHeader); ++column) {
