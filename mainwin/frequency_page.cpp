@@ -153,8 +153,8 @@ void FrequencyPage::AddFile(const FrequencyFile& file) {
   item->setCheckState(Qt::Checked);
   const QSignalBlocker blocker(checkListBox1_);
   checkListBox1_->addItem(item);
-  ApplyActiveRule();
   for (QPushButton* button : diagramButtons_) button->setEnabled(true);
+  ApplyActiveRule();
 }
 
 void FrequencyPage::SpeedButtonDeleteClick() {

@@ -57,9 +57,10 @@ void THistoryList::Add(const QString& fileName) {
 void THistoryList::InsertAtTop(const QString& fileName) {
   const bool menuHasOtherItems = baseMenu_->actions().size() > 1;
   if (!separator_ && menuHasOtherItems) {
-    separator_ = new QAction(baseMenu_);
-    separator_->setSeparator(true);
-    baseMenu_->insertAction(ActionBelowBase(), separator_);
+    auto* separator = new QAction(baseMenu_);
+    separator->setSeparator(true);
+    baseMenu_->insertAction(ActionBelowBase(), separator);
+    separator_ = separator;
   }
   auto* item = new QAction(QString(fileName).replace('&', QLatin1String("&&")), baseMenu_);
   item->setData(fileName);
