@@ -111,20 +111,24 @@ QWidget* FrequencyPage::MakeCountAndZ0() {
     files_.SpinDown();
     ShowDisplayCount("  " + QString::number(files_.DisplayCount()));
   });
-  auto* z0Label = new QLabel(tr("Z0 in Ohm"), box);
-  z0Label->setObjectName("Label2");
-  auto* z0Edit = new QLineEdit(QStringLiteral("   50.0"), box);
-  z0Edit->setObjectName("ZLEingabe");
-  z0Edit->setFixedWidth(60);
-  z0Label->setBuddy(z0Edit);
-  connect(z0Edit, &QLineEdit::textEdited, this, &FrequencyPage::ZLEingabeChange);
   layout->addWidget(label4_, 0, 0);
   layout->addWidget(fnEingabe_, 0, 1);
   layout->addWidget(fAnzahlSpinButton_, 0, 2, Qt::AlignLeft);
-  layout->addWidget(z0Label, 1, 0);
-  layout->addWidget(z0Edit, 1, 1);
+  AddZ0Entry(*layout, 1);
   layout->setColumnStretch(3, 1);
   return box;
+}
+
+void FrequencyPage::AddZ0Entry(QGridLayout& layout, int row) {
+  auto* label = new QLabel(tr("Z0 in Ohm"), this);
+  label->setObjectName("Label2");
+  auto* edit = new QLineEdit(QStringLiteral("   50.0"), this);
+  edit->setObjectName("ZLEingabe");
+  edit->setFixedWidth(60);
+  label->setBuddy(edit);
+  connect(edit, &QLineEdit::textEdited, this, &FrequencyPage::ZLEingabeChange);
+  layout.addWidget(label, row, 0);
+  layout.addWidget(edit, row, 1);
 }
 
 QWidget* FrequencyPage::MakeDisplayOptions() {

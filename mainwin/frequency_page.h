@@ -6,6 +6,7 @@
 #include "frequency_files.h"
 
 class QCheckBox;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -40,6 +41,7 @@ class FrequencyPage : public QWidget {
   QWidget* MakeFileColumn();
   QWidget* MakeDiagramButtons();
   QWidget* MakeCountAndZ0();
+  void AddZ0Entry(QGridLayout& layout, int row);
   QWidget* MakeDisplayOptions();
   QPushButton* MakeDiagramButton(const char* name, const QString& caption, DiagramWindow window, DisplayMode mode);
 

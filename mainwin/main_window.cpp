@@ -35,6 +35,21 @@ constexpr int kFirstOutputPage = 3;
 const char* const kGeometryKey = "MainWindow/Geometry";
 const char* const kTableHeader[] = {"File Name", "Ic", "fT", "fmax", "MAG/MSG", "k", "f(k>1)", "j/(mA/µm²)"};
 
+// Six captions side by side must fit the fixed width: a smaller, condensed font, and where that is
+// not enough the longest captions shortened on screen (the tool tip holds the whole caption).
+QTabBar* MakeTabSet(QWidget* parent) {
+  auto* tabs = new QTabBar(parent);
+  tabs->setObjectName("TabSet1");
+  QFont font = tabs->font();
+  font.setPixelSize(11);
+  font.setStretch(QFont::Condensed);
+  tabs->setFont(font);
+  tabs->setUsesScrollButtons(false);
+  tabs->setElideMode(Qt::ElideRight);
+  tabs->setExpanding(false);
+  return tabs;
+}
+
 }  // namespace
 
 TSDIAppForm::TSDIAppForm(FormSet& forms, const QStringList& arguments)
@@ -55,17 +70,7 @@ TSDIAppForm::TSDIAppForm(FormSet& forms, const QStringList& arguments)
 
 QWidget* TSDIAppForm::BuildNotebook() {
   auto* central = new QWidget(this);
-  tabSet1_ = new QTabBar(central);
-  tabSet1_->setObjectName("TabSet1");
-  // Six captions side by side must fit the fixed width: a smaller, condensed font, and where that
-  // is not enough the longest captions shortened on screen (the tool tip holds the whole caption).
-  QFont tabFont = tabSet1_->font();
-  tabFont.setPixelSize(11);
-  tabFont.setStretch(QFont::Condensed);
-  tabSet1_->setFont(tabFont);
-  tabSet1_->setUsesScrollButtons(false);
-  tabSet1_->setElideMode(Qt::ElideRight);
-  tabSet1_->setExpanding(false);
+  tabSet1_ = MakeTabSet(central);
   notebook1_ = new QStackedWidget(central);
   notebook1_->setObjectName("Notebook1");
   frequencyPage_ = new FrequencyPage(notebook1_);

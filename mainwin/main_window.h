@@ -38,7 +38,9 @@ class TSDIAppForm : public QMainWindow {
   void SetPrinterHint();
 
   int PageNumber() const { return pageNumber_; }
+  // What the last diagram button asked for, and its "Connect Frequency Points" state.
   DisplayMode CurrentDisplayMode() const { return displayMode_; }
+  bool ConnectForWindows() const { return connectForWindows_; }
   SeriesList& Series() { return series_; }
   THistoryList& HistoryList() { return *historyList1_; }
 

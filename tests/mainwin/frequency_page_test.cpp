@@ -25,6 +25,8 @@
 
 using mainwin::FormSet;
 
+Q_DECLARE_METATYPE(mainwin::DisplayMode)
+
 namespace {
 
 const char* const kDiagramButtons[] = {"SpeedButton1", "SpeedButton2", "SpeedButton3", "SpeedButton4", "SpeedButton5",
@@ -61,6 +63,8 @@ class FrequencyPageTest : public QObject {
   void RecentFileItemLoadsLikeTheLoadCommand();
   void Z0IsLimited_data();
   void Z0IsLimited();
+  void DiagramButtonSetsDisplayMode_data();
+  void DiagramButtonSetsDisplayMode();
 
  private:
   void Start(const QStringList& arguments = {});
@@ -276,6 +280,33 @@ void FrequencyPageTest::Z0IsLimited() {
   edit->selectAll();
   QTest::keyClicks(edit, typed);
   QCOMPARE(numerics::WorkingState().z0, z0);
+}
+
+void FrequencyPageTest::DiagramButtonSetsDisplayMode_data() {
+  using M = mainwin::DisplayMode;
+  QTest::addColumn<QString>("button");
+  QTest::addColumn<M>("mode");
+  QTest::addColumn<bool>("connect");
+  QTest::newRow("S11") << "SpeedButton1" << M::InputReflection << true;
+  QTest::newRow("S22") << "SpeedButton2" << M::OutputReflection << false;
+  QTest::newRow("S11 - S22") << "SpeedButton6" << M::BothReflections << true;
+  QTest::newRow("S21") << "SpeedButton3" << M::ForwardTransmission << false;
+  QTest::newRow("S12") << "SpeedButton4" << M::ReverseTransmission << true;
+  QTest::newRow("S21 - S12") << "SpeedButton5" << M::BothTransmissions << false;
+  QTest::newRow("gain") << "SpeedButtonGain" << M::Gain << true;
+  QTest::newRow("stability") << "SpeedButtonk" << M::Stability << false;
+  QTest::newRow("impedance") << "SpeedButtonZ" << M::Impedance << true;
+}
+
+void FrequencyPageTest::DiagramButtonSetsDisplayMode() {
+  QFETCH(QString, button);
+  QFETCH(mainwin::DisplayMode, mode);
+  QFETCH(bool, connect);
+  Start({File(1)});
+  Find<QCheckBox>("VerbindenCheckBox")->setChecked(connect);
+  QTest::mouseClick(Find<QPushButton>(qPrintable(button)), Qt::LeftButton);
+  QCOMPARE(Window().CurrentDisplayMode(), mode);
+  QCOMPARE(Window().ConnectForWindows(), connect);
 }
 
 int RunFrequencyPageTests(int argc, char** argv) {

@@ -42,6 +42,7 @@ class MainWindowTest : public QObject {
   void StartupSelectsMultiplierButton();
   void ClosingWritesSettingsThatReadBackWithOptionsOff();
   void ClosingSavesTheRecentFiles();
+  void WindowPositionIsRemembered();
   void OutputPagesNeedTwoSeriesFiles_data();
   void OutputPagesNeedTwoSeriesFiles();
   void TabsCarryThePageCaptions();
@@ -196,6 +197,14 @@ void MainWindowTest::ClosingSavesTheRecentFiles() {
   numerics::DataSets() = numerics::DataSetStore{};
   forms_ = Start();
   QCOMPARE(forms_->SDIAppForm()->HistoryList().Items(), QStringList({files[1], files[0]}));
+}
+
+void MainWindowTest::WindowPositionIsRemembered() {
+  forms_ = Start();
+  forms_->SDIAppForm()->move(123, 77);
+  forms_->SDIAppForm()->close();
+  forms_ = Start();
+  QCOMPARE(forms_->SDIAppForm()->pos(), QPoint(123, 77));
 }
 
 void MainWindowTest::OutputPagesNeedTwoSeriesFiles_data() {
