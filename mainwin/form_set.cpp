@@ -9,8 +9,8 @@
 
 namespace mainwin {
 
-// One entry per window, in the order the windows are created; graph windows and their dialogs
-// join the list between the main window and the boxes.
+// One entry per window, in the order the windows are created: the main window, the graph windows
+// and their dialogs, then the boxes. A new window takes its place in kCreationOrder.
 struct FormFactories {
   using Factory = QWidget* (*)(FormSet& forms, const QStringList& arguments);
 

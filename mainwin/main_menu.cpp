@@ -13,7 +13,6 @@
 #include "form_set.h"
 #include "history_list.h"
 #include "main_window.h"
-#include "message_box.h"
 #include "tools_menu.h"
 
 namespace mainwin {
