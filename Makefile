@@ -15,7 +15,7 @@ build: setup
 	@cmake --build $(BUILD) -j $(JOBS)
 
 run: build
-	$(BUILD)/app/netrix --figures examples/amplifier.s2p
+	$(BUILD)/app/netrix examples/amplifier.s2p
 
 test: build
 	ctest --test-dir $(BUILD) --output-on-failure --no-tests=error -j $(JOBS)

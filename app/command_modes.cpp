@@ -29,6 +29,8 @@ constexpr HeadlessMode kModes[] = {
 
 std::string UsageText() {
   return "Usage:\n"
+         "  netrix [FILE...]\n"
+         "      Open the main window with up to four S-parameter files loaded.\n"
          "  netrix --figures FILE\n"
          "      Print the gain and stability figures of every point of FILE as CSV:\n"
          "      f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs\n" +

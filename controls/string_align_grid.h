@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QTableWidget>
+#include <QVector>
+
+namespace controls {
+
+// A text grid addressed as Cells(column, row), whose columns each keep their own alignment:
+// every cell written into a column takes that column's alignment. The first FixedRows rows are
+// a header: shaded and not selectable.
+class TStringAlignGrid : public QTableWidget {
+  Q_OBJECT
+
+ public:
+  TStringAlignGrid(int columns, int rows, QWidget* parent = nullptr);
+
+  void SetColumnAlignment(int column, Qt::Alignment alignment);
+  Qt::Alignment ColumnAlignment(int column) const;
+  void SetDefaultColumnWidth(int pixels);
+  void SetDefaultRowHeight(int pixels);
+  void SetFixedRows(int rows);
+
+  void SetCells(int column, int row, const QString& text);
+  QString Cells(int column, int row) const;
+  void ClearRow(int row);
+
+ private:
+  void StyleCell(QTableWidgetItem& item, int column, int row) const;
+
+  QVector<Qt::Alignment> alignments_;
+  int fixedRows_ = 0;
+};
+
+}  // namespace controls

@@ -1,0 +1,136 @@
+// How files reach the main window: the load command and its dialog, the command line, the
+// recent-files list, drops from the file manager, and the program chooser of "&Execute".
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QSettings>
+#include <QUrl>
+
+#include "frequency_page.h"
+#include "history_list.h"
+#include "input_page.h"
+#include "main_window.h"
+#include "message_box.h"
+#include "numerics/data_set.h"
+#include "numerics/file_reader.h"
+#include "tools_menu.h"
+
+namespace mainwin {
+namespace {
+
+constexpr int kCommandLineFiles = 4;
+const char* const kLoadDirectoryKey = "Dialogs/LoadDirectory";
+const char* const kExecDirectoryKey = "Dialogs/ExecDirectory";
+
+QFileDialog* MakeOpenDialog(QWidget* parent, const char* name, const QString& filter, const char* directoryKey) {
+  auto* dialog = new QFileDialog(parent);
+  dialog->setObjectName(name);
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  dialog->setNameFilter(filter);
+  dialog->setDirectory(QSettings().value(directoryKey, QDir::currentPath()).toString());
+  return dialog;
+}
+
+QString ChooseFile(QFileDialog* dialog, const char* directoryKey) {
+  if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty()) return QString();
+  QSettings().setValue(directoryKey, dialog->directory().absolutePath());
+  return dialog->selectedFiles().front();
+}
+
+}  // namespace
+
+bool TSDIAppForm::RefuseWhenStoreFull() {
+  if (numerics::DataSets().openCount < numerics::kMaxDataSets) return false;
+  ShowMessage(this, tr("No more than ") + QString::number(numerics::kMaxDataSets) + tr(" files can be open!"));
+  return true;
+}
+
+void TSDIAppForm::Load1Click() {
+  if (RefuseWhenStoreFull()) return;
+  if (!openDialog1_) {
+    openDialog1_ = MakeOpenDialog(this, "OpenDialog1", tr("S-Parameter (*.spm *.s2p);;All Files (*)"),
+                                  kLoadDirectoryKey);
+    openDialog1_->setDefaultSuffix(QStringLiteral("spm"));
+  }
+  openDialog1_->selectFile(QStringLiteral("*.spm"));
+  const QString chosen = ChooseFile(openDialog1_, kLoadDirectoryKey);
+  if (!chosen.isEmpty()) LoadFrequencyFile(chosen);
+}
+
+void TSDIAppForm::LoadFrequencyFile(const QString& fileName) {
+  const QFileInfo file(fileName);
+  if (!file.isFile()) {
+    ShowMessage(this, tr("File -") + fileName + tr("- is not available!"));
+    return;
+  }
+  const QString path = file.absoluteFilePath();
+  // Read first: a file that cannot be read must leave the series, the list and the page alone.
+  const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(path.toStdString());
+  if (outcome.status != numerics::LoadStatus::Loaded) {
+    ShowMessage(this, QString::fromStdString(outcome.message));
+    return;
+  }
+  // A file of the frequency page belongs to the bias series as well.
+  series_.Append({path.toStdString()});
+  historyList1_->Add(path);
+  const numerics::TwoPortDataSet& set = numerics::DataSets().sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)];
+  frequencyPage_->AddFile({path.toStdString(), set.title, set.pointCount, true});
+}
+
+void TSDIAppForm::LoadCommandLine(const QStringList& arguments) {
+  for (const QString& argument : arguments.mid(0, kCommandLineFiles)) {
+    if (QFileInfo(argument).isFile()) {
+      LoadFrequencyFile(argument);
+    } else {
+      ShowMessage(this, tr("File ") + argument + tr(" is not present!"));
+    }
+  }
+}
+
+void TSDIAppForm::HistoryList1Click(const QString& fileName) {
+  if (!RefuseWhenStoreFull()) LoadFrequencyFile(fileName);
+}
+
+void TSDIAppForm::FilesDropped(const QStringList& paths) {
+  if (paths.isEmpty()) return;
+  if (pageNumber_ == 1) {
+    if (!RefuseWhenStoreFull()) LoadFrequencyFile(paths.front());
+  } else if (pageNumber_ == 2) {
+    AppendSeriesFiles(paths);
+  }
+}
+
+void TSDIAppForm::AppendSeriesFiles(const QStringList& paths) {
+  std::vector<std::string> names;
+  for (const QString& path : paths) names.push_back(QFileInfo(path).absoluteFilePath().toStdString());
+  const AppendResult result = series_.Append(names);
+  if (!result.message.empty()) ShowMessage(this, QString::fromStdString(result.message));
+  inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
+}
+
+void TSDIAppForm::dragEnterEvent(QDragEnterEvent* event) {
+  if (pageNumber_ <= 2 && event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void TSDIAppForm::dropEvent(QDropEvent* event) {
+  QStringList paths;
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) paths.append(url.toLocalFile());
+  }
+  event->acceptProposedAction();
+  FilesDropped(paths);
+}
+
+void TSDIAppForm::ExecButtonClick() {
+  if (!execDialog_) {
+    execDialog_ = MakeOpenDialog(this, "ExecDialog", tr("Programs (*)"), kExecDirectoryKey);
+    execDialog_->setFilter(QDir::AllDirs | QDir::Files | QDir::Executable | QDir::NoDotAndDotDot);
+  }
+  const QString chosen = ChooseFile(execDialog_, kExecDirectoryKey);
+  if (!chosen.isEmpty()) StartOrBeep(StartProgram(chosen));
+}
+
+}  // namespace mainwin

@@ -1,0 +1,69 @@
+#include "form_set.h"
+
+#include <QApplication>
+#include <cassert>
+
+#include "about_box.h"
+#include "help_boxes.h"
+#include "main_window.h"
+
+namespace mainwin {
+
+// One entry per window, in the order the windows are created: the main window, the graph windows
+// and their dialogs, then the boxes. A new window takes its place in kCreationOrder.
+struct FormFactories {
+  using Factory = QWidget* (*)(FormSet& forms, const QStringList& arguments);
+
+  static QWidget* CreateSDIAppForm(FormSet& forms, const QStringList& arguments) {
+    return forms.sdiAppForm_ = new TSDIAppForm(forms, arguments);
+  }
+  static QWidget* CreateAboutBox(FormSet& forms, const QStringList&) {
+    return forms.aboutBox_ = new TAboutBox;
+  }
+  static QWidget* CreateHilfeFOMBox(FormSet& forms, const QStringList&) {
+    return forms.hilfeFomBox_ = new THilfeFOMBox;
+  }
+  static QWidget* CreateHilfeBox(FormSet& forms, const QStringList&) {
+    return forms.hilfeBox_ = new THilfeBox;
+  }
+
+  static constexpr Factory kCreationOrder[] = {CreateSDIAppForm, CreateAboutBox, CreateHilfeFOMBox, CreateHilfeBox};
+};
+
+FormSet::FormSet(const QStringList& arguments) {
+  for (FormFactories::Factory create : FormFactories::kCreationOrder) {
+    created_.emplace_back(create(*this, arguments));
+  }
+  sdiAppForm_->SetPrinterHint();
+}
+
+FormSet::~FormSet() {
+  while (!created_.empty()) created_.pop_back();
+}
+
+QWidget* FormSet::DiagramWindowOf(DiagramWindow window) const {
+  const auto index = static_cast<std::size_t>(window);
+  assert(index < diagramWindows_.size());
+  return diagramWindows_[index];
+}
+
+void InitialiseApplication() {
+  QCoreApplication::setOrganizationName(QStringLiteral("netrix"));
+  QCoreApplication::setApplicationName(QStringLiteral("netrix"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(NETRIX_VERSION));
+  QGuiApplication::setApplicationDisplayName(QStringLiteral("S-Parameter Analysis"));
+}
+
+int RunGui(int& argc, char** argv) {
+  QApplication application(argc, argv);
+  InitialiseApplication();
+  QStringList arguments = QCoreApplication::arguments();
+  arguments.removeFirst();
+  FormSet forms(arguments);
+  QObject::connect(forms.SDIAppForm(), &TSDIAppForm::FormClosed, &application, &QCoreApplication::quit,
+                   Qt::QueuedConnection);
+  forms.SDIAppForm()->show();
+  return QApplication::exec();
+}
+
+}  // namespace mainwin

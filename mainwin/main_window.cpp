@@ -1,0 +1,208 @@
+#include "main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QMenuBar>
+#include <QFileInfo>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include "controls/string_align_grid.h"
+#include "form_set.h"
+#include "frequency_page.h"
+#include "help_boxes.h"
+#include "history_list.h"
+#include "input_page.h"
+#include "message_box.h"
+#include "output_pages.h"
+#include "settings_file.h"
+#include "tools_menu.h"
+
+namespace mainwin {
+namespace {
+
+constexpr int kClientWidth = 641;
+constexpr int kClientHeight = 473;
+constexpr int kFirstOutputPage = 3;
+const char* const kGeometryKey = "MainWindow/Geometry";
+const char* const kTableHeader[] = {"File Name", "Ic", "fT", "fmax", "MAG/MSG", "k", "f(k>1)", "j/(mA/µm²)"};
+
+// Six captions side by side must fit the fixed width: a smaller, condensed font, and where that is
+// not enough the longest captions shortened on screen (the tool tip holds the whole caption).
+QTabBar* MakeTabSet(QWidget* parent) {
+  auto* tabs = new QTabBar(parent);
+  tabs->setObjectName("TabSet1");
+  QFont font = tabs->font();
+  font.setPixelSize(11);
+  font.setStretch(QFont::Condensed);
+  tabs->setFont(font);
+  tabs->setUsesScrollButtons(false);
+  tabs->setElideMode(Qt::ElideRight);
+  tabs->setExpanding(false);
+  return tabs;
+}
+
+}  // namespace
+
+TSDIAppForm::TSDIAppForm(FormSet& forms, const QStringList& arguments)
+    : QMainWindow(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                               Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
+      forms_(forms) {
+  setObjectName("SDIAppForm");
+  setWindowTitle(tr("S-Parameter Analysis"));
+  setAcceptDrops(true);
+  BuildMenus();
+  BuildToolBar();
+  setCentralWidget(BuildNotebook());
+  statusBar()->setObjectName("StatusBar");
+  statusBar()->setSizeGripEnabled(false);
+  setFixedSize(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
+  FormCreate(arguments);
+}
+
+QWidget* TSDIAppForm::BuildNotebook() {
+  auto* central = new QWidget(this);
+  tabSet1_ = MakeTabSet(central);
+  notebook1_ = new QStackedWidget(central);
+  notebook1_->setObjectName("Notebook1");
+  frequencyPage_ = new FrequencyPage(notebook1_);
+  inputPage_ = new InputPage(notebook1_);
+  const std::pair<QWidget*, QString> pages[] = {
+      {frequencyPage_, tr("S-Parameter vs Frequency")},
+      {inputPage_, tr("Input: Extracted F.O.M. vs Parameter")},
+      {MakeGraphPage(notebook1_, "Image1", "EditComment1"), tr("fT, fmax Output")},
+      {MakeGraphPage(notebook1_, "Image2", "EditComment2"), tr("k, MSG, MAG Output")},
+      {MakeGraphPage(notebook1_, "Image3", "EditComment4"), tr("Stability Limit")},
+      {MakeTablePage(notebook1_), tr("Tabular Output")},
+  };
+  for (const auto& [page, caption] : pages) {
+    page->setWindowTitle(caption);
+    notebook1_->addWidget(page);
+  }
+  connect(frequencyPage_, &FrequencyPage::DiagramRequested, this, &TSDIAppForm::ShowDiagram);
+  auto* layout = new QVBoxLayout(central);
+  layout->setContentsMargins(2, 2, 2, 2);
+  layout->setSpacing(0);
+  layout->addWidget(tabSet1_);
+  layout->addWidget(notebook1_, 1);
+  layout->addWidget(BuildBottomButtons());
+  return central;
+}
+
+void TSDIAppForm::FormCreate(const QStringList& arguments) {
+  for (int i = 0; i < notebook1_->count(); ++i) {
+    tabSet1_->addTab(notebook1_->widget(i)->windowTitle());
+    tabSet1_->setTabToolTip(i, notebook1_->widget(i)->windowTitle());
+  }
+  connect(tabSet1_, &QTabBar::currentChanged, this, &TSDIAppForm::TabSet1Click);
+  auto* table = findChild<controls::TStringAlignGrid*>("StringAlignGridTab");
+  for (int column = 0; column < std::ssize(kTableHeader); ++column) {
+    table->SetCells(column, 0, QString::fromUtf8(kTableHeader[column]));
+  }
+  ReadIniFile();
+  inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
+  QSettings settings;
+  restoreGeometry(settings.value(kGeometryKey).toByteArray());
+  historyList1_->SetRegPath(QStringLiteral("netrix"));
+  historyList1_->SetRegKey(QStringLiteral("MRUList1"));
+  historyList1_->SetMaxItems(6);
+  historyList1_->Load(settings);
+  connect(historyList1_, &THistoryList::Clicked, this, &TSDIAppForm::HistoryList1Click);
+  LoadCommandLine(arguments);
+}
+
+// A missing or unreadable file leaves the built-in values in place.
+void TSDIAppForm::ReadIniFile() {
+  IniFile ini;
+  LoadIniFile(SettingsFilePath(), ini);
+  inputPage_->ShowSettings(ReadIniSettings(ini));
+}
+
+void TSDIAppForm::WriteIniFile() {
+  const QString path = SettingsFilePath();
+  IniFile ini;
+  LoadIniFile(path, ini);
+  WriteIniSettings(inputPage_->CurrentSettings(), ini);
+  QString error;
+  if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !SaveIniFile(path, ini, error)) {
+    ShowMessage(this, tr("The settings could not be saved to ") + path + " (" + error +
+                          tr("). Make the folder writable to keep them next time!"));
+  }
+}
+
+void TSDIAppForm::FormClose() {
+  WriteIniFile();
+  QSettings settings;
+  historyList1_->Save(settings);
+  settings.setValue(kGeometryKey, saveGeometry());
+}
+
+void TSDIAppForm::closeEvent(QCloseEvent* event) {
+  FormClose();
+  event->accept();
+  emit FormClosed();
+}
+
+void TSDIAppForm::TabSet1Click(int index) {
+  const int page = index + 1;
+  if (page >= kFirstOutputPage && series_.SeriesCount() < 2) {
+    ShowMessage(this, tr("Please insert two or more files."));
+    tabSet1_->setCurrentIndex(1);
+    return;
+  }
+  pageNumber_ = page;
+  notebook1_->setCurrentIndex(index);
+}
+
+void TSDIAppForm::ShowDiagram(DiagramWindow window, DisplayMode mode) {
+  displayMode_ = mode;
+  connectForWindows_ = frequencyPage_->ConnectFrequencyPoints();
+  QWidget* shown = forms_.DiagramWindowOf(window);
+  if (!shown) {
+    statusBar()->showMessage(tr("This diagram window is not available yet."));
+    return;
+  }
+  shown->show();
+  shown->raise();
+}
+
+void TSDIAppForm::Help1Click() {
+  QDialog* box = pageNumber_ == 1 ? static_cast<QDialog*>(forms_.HilfeBox()) : forms_.HilfeFOMBox();
+  box->show();
+  box->raise();
+}
+
+void TSDIAppForm::VortoHelp1Click() {
+  if (!OpenHelpFile()) ShowMessage(this, tr("Help file not available. Look at Vorto manual in pdf format."));
+}
+
+void TSDIAppForm::StayInFront1Click(bool checked) {
+  setWindowFlag(Qt::WindowStaysOnTopHint, checked);
+  show();
+}
+
+void TSDIAppForm::SetPrinterHint() {
+  if (QPrinterInfo::availablePrinterNames().isEmpty()) return;
+  drucken1_->setStatusTip(tr("Print window with ") + QPrinterInfo::defaultPrinterName());
+}
+
+void TSDIAppForm::Drucken1Click() {
+  QPrinter printer;
+  QPrintDialog dialog(&printer, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QPixmap picture = grab();
+  QPainter painter(&printer);
+  const QRect page = painter.viewport();
+  const QSize fitted = picture.size().scaled(page.size(), Qt::KeepAspectRatio);
+  painter.drawPixmap(QRect(page.topLeft(), fitted), picture);
+}
+
+}  // namespace mainwin

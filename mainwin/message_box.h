@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+class QWidget;
+
+// Every message box of the main window goes through here, so that a test can answer it instead
+// of a person (a modal box would block a headless run).
+namespace mainwin {
+
+using MessageHandler = std::function<void(const QString& text)>;
+
+// A modal box with the text and an OK button.
+void ShowMessage(QWidget* parent, const QString& text);
+
+// Replaces the modal boxes by handler until the returned guard is destroyed.
+class MessageInterception {
+ public:
+  explicit MessageInterception(MessageHandler handler);
+  ~MessageInterception();
+  MessageInterception(const MessageInterception&) = delete;
+  MessageInterception& operator=(const MessageInterception&) = delete;
+
+ private:
+  MessageHandler previous_;
+};
+
+}  // namespace mainwin
