@@ -31,8 +31,10 @@ Canvas::Canvas(QPainter& painter, int width, int height)
       height_(height),
       qfont_(PreparedFont(font_)),
       metrics_(qfont_, painter.device()) {
-  // Hard pixel edges, as users compare grid lines pixel by pixel; vector outputs are unaffected.
+  // Hard pixel edges and plain text, as users compare grid lines pixel by pixel; a diagram then
+  // keeps a handful of colours, which GIF stores exactly. Vector outputs are unaffected.
   painter_.setRenderHint(QPainter::Antialiasing, false);
+  painter_.setRenderHint(QPainter::TextAntialiasing, false);
   painter_.setFont(qfont_);
   ApplyPen();
   ApplyBrush();

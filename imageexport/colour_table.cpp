@@ -106,7 +106,13 @@ std::uint32_t MeanColour(const std::vector<Entry>& entries, const Box& box) {
 
 std::vector<Entry> Histogram(std::span<const std::uint32_t> pixels) {
   std::unordered_map<std::uint32_t, std::uint64_t> counts;
-  for (const std::uint32_t pixel : pixels) ++counts[pixel & kRgbMask];
+  for (std::size_t i = 0; i < pixels.size();) {  // counted run by run
+    const std::uint32_t colour = pixels[i] & kRgbMask;
+    std::size_t end = i + 1;
+    while (end < pixels.size() && (pixels[end] & kRgbMask) == colour) ++end;
+    counts[colour] += end - i;
+    i = end;
+  }
   std::vector<Entry> entries;
   entries.reserve(counts.size());
   for (const auto& [colour, count] : counts) entries.push_back({colour, count});
