@@ -59,10 +59,10 @@ std::vector<double> GridValues(const Axis& a, double spacing) {
   std::vector<double> out;
   if (a.mode == AxisMode::Log) {
     for (const double d : Decades(a.cross, a.max)) {
+      if (d > a.cross) out.push_back(d);
       for (int m = 2; m <= 9; ++m) {
         if (m * d < a.max) out.push_back(m * d);
       }
-      if (d > a.cross) out.push_back(d);
     }
     return out;
   }
