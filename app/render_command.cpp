@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <cassert>
 #include <filesystem>
 #include <memory>
 #include <ostream>
@@ -20,7 +21,10 @@ namespace {
 class GuiSession {
  public:
   GuiSession() {
-    if (QCoreApplication::instance() != nullptr) return;
+    if (QCoreApplication::instance() != nullptr) {
+      assert(qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr && "text needs a GUI application");
+      return;
+    }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QGuiApplication>(argc_, argv_);
   }

@@ -20,7 +20,7 @@ void Line(Canvas& c, int x1, int y1, int x2, int y2) {
 void DrawHorizontalAxis(const Diagram& d, bool flip, Canvas& c, double step) {
   const int row = YToPixel(d, d.yCross);
   Line(c, d.pixLeft, row, d.pixRight, row);
-  const int back = Rounded(0.006 * d.width + 1);
+  const int back = XArrowLength(d);
   const int side = Rounded(0.003 * d.height + 1);
   Line(c, d.pixRight, row, d.pixRight - back, row - side);
   Line(c, d.pixRight, row, d.pixRight - back, row + side);
@@ -48,6 +48,8 @@ void DrawVerticalAxis(const Diagram& d, bool flip, Canvas& c, double step) {
 }
 
 }  // namespace
+
+int XArrowLength(const Diagram& d) { return Rounded(0.006 * d.width + 1); }
 
 void ClearDiagram(Colour colour, Canvas& canvas) {
   canvas.SetBrushStyle(BrushStyle::Solid);

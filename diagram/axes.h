@@ -17,4 +17,7 @@ void SetDrawColour(Colour colour, Canvas& canvas);
 // the left (to the right with flipY).
 void DrawAxes(const Diagram& d, bool flipX, bool flipY, Canvas& canvas, double yStep, double xStep);
 
+// How far the arrow head of the horizontal axis reaches back from its tip, in pixels.
+int XArrowLength(const Diagram& d);
+
 }  // namespace diagram

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "axes.h"
 #include "axis.h"
 #include "numerics/prefixed_number.h"
 #include "numerics/text_functions.h"
@@ -64,8 +65,7 @@ void DrawAxisLabels(const Diagram& d, LabelPlacement placement, Canvas& canvas) 
 
 void DrawXTitle(const Diagram& d, std::string_view text, bool below, Canvas& canvas) {
   const int row = YToPixel(d, d.yCross);
-  const int arrowBack = static_cast<int>(std::nearbyint(0.006 * d.width + 1));
-  const int left = d.pixRight - arrowBack - 4 - canvas.TextWidth(text);
+  const int left = d.pixRight - XArrowLength(d) - 4 - canvas.TextWidth(text);
   canvas.TextOut(left, below ? row + 4 : row - canvas.TextHeight(text) - 3, text);
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 
 #include "axes.h"
 #include "curves.h"
@@ -47,6 +48,7 @@ void Smooth(Locus& locus) {
   int lastRe = locus.count - 1, lastIm = locus.count - 1;
   SplineResample(locus.frequency, locus.re, lastRe, false, false, kSplineMaxPoints);
   SplineResample(frequencyCopy, locus.im, lastIm, false, false, kSplineMaxPoints);
+  assert(lastRe == lastIm);
   locus.count = lastRe + 1;
 }
 
