@@ -26,28 +26,6 @@ TEST(Canvas, ColoursAreBlueGreenRedFromTheHighByteDown) {
   EXPECT_EQ(image.pixel(5, 15), qRgb(255, 255, 255));  // right and bottom edges excluded
 }
 
-TEST(Canvas, LineToDrawsFromTheCurrentPointAndMovesIt) {
-  Picture p(20, 20);
-  p.canvas().MoveTo(2, 5);
-  p.canvas().LineTo(12, 5);
-  p.canvas().LineTo(12, 15);
-  EXPECT_EQ(p.canvas().PenPosition(), QPoint(12, 15));
-  const QImage& image = p.Finish();
-  EXPECT_EQ(ColourAt(image, 7, 5), kBlack);
-  EXPECT_EQ(ColourAt(image, 12, 10), kBlack);
-  EXPECT_EQ(ColourAt(image, 7, 10), kWhite);
-}
-
-TEST(Canvas, DottedLinesLeaveGaps) {
-  Picture p(40, 5);
-  p.canvas().SetPenStyle(PenStyle::Dot);
-  p.canvas().MoveTo(0, 2);
-  p.canvas().LineTo(39, 2);
-  const int inked = CountNotWhite(p.Finish(), QRect(0, 2, 40, 1));
-  EXPECT_GT(inked, 8);
-  EXPECT_LT(inked, 30);
-}
-
 TEST(Canvas, TheHistoricSansSerifIsSubstituted) {
   InstallFontSubstitutions();
   const QFontInfo info(MakeQFont(FontSpec{}));

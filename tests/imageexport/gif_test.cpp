@@ -5,13 +5,11 @@
 #include <ostream>
 
 #include <QByteArray>
-#include <QDir>
 #include <set>
 #include <span>
 #include <string>
 
 #include "images.h"
-#include "imageexport/picture_files.h"
 
 namespace imageexport {
 namespace {
@@ -98,13 +96,6 @@ TEST(Gif, RicherPicturesComeBackInAtMost256NearColours) {
     }
   }
   EXPECT_LE(colours.size(), 256U);
-}
-
-TEST(Gif, SaveGifWritesAFileQtCanOpen) {
-  const std::string path = QDir(QString::fromStdString(testing::TempDir())).filePath("gif_test_diagram.gif").toStdString();
-  const QImage source = test::DiagramLike(400, 300);
-  ASSERT_TRUE(SaveGif(source, path).Ok());
-  ExpectSamePixels(QImage(QString::fromStdString(path)).convertToFormat(QImage::Format_RGB32), source);
 }
 
 }  // namespace

@@ -3,11 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QByteArray>
-#include <QDir>
-#include <QFile>
 
 #include "images.h"
-#include "imageexport/picture_files.h"
 
 namespace imageexport {
 namespace {
@@ -35,17 +32,6 @@ TEST(Jpeg, SmoothPicturesKeepTheirColours) {
   ASSERT_EQ(decoded.size(), source.size());
   EXPECT_LT(test::MeanChannelError(decoded, source), 2.0);
   EXPECT_LE(test::LargestChannelError(decoded.pixel(32, 32), source.pixel(32, 32)), 8);
-}
-
-TEST(Jpeg, SaveJpegWritesTheEncodedBytes) {
-  const std::string path = QDir(QString::fromStdString(testing::TempDir())).filePath("jpeg_test_diagram.jpg").toStdString();
-  const QImage source = test::DiagramLike(200, 100);
-  ASSERT_TRUE(SaveJpeg(source, path).Ok());
-  QFile file(QString::fromStdString(path));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  const QByteArray written = file.readAll();
-  const std::vector<unsigned char> expected = EncodeJpeg(source).bytes;
-  EXPECT_EQ(written, QByteArray(reinterpret_cast<const char*>(expected.data()), static_cast<qsizetype>(expected.size())));
 }
 
 }  // namespace
