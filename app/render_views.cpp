@@ -40,11 +40,11 @@ std::vector<diagram::LoadedFile> FilesIn(const RenderScene& scene, const std::ar
 
 void StartPicture(Canvas& c) {
   diagram::ClearDiagram(diagram::kWhite, c);
-  c.SetFont(diagram::FontSpec{});
+  c.SetFont(diagram::DiagramFont{});
 }
 
 void UseCurveFont(Canvas& c) {
-  diagram::FontSpec bold;
+  diagram::DiagramFont bold;
   bold.bold = true;
   c.SetFont(bold);
 }

@@ -18,9 +18,9 @@ QString ToQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-QFont PreparedFont(const FontSpec& spec) {
+QFont PreparedFont(const DiagramFont& font) {
   InstallFontSubstitutions();
-  return MakeQFont(spec);
+  return MakeQFont(font);
 }
 
 }  // namespace
@@ -60,7 +60,7 @@ void Canvas::SetBrushStyle(BrushStyle style) {
   ApplyBrush();
 }
 
-void Canvas::SetFont(const FontSpec& font) {
+void Canvas::SetFont(const DiagramFont& font) {
   font_ = font;
   qfont_ = PreparedFont(font_);
   metrics_ = QFontMetrics(qfont_, painter_.device());

@@ -19,7 +19,7 @@ namespace diagram {
 enum class PenStyle { Solid, Dot };
 enum class BrushStyle { Solid, Clear };
 
-struct FontSpec {
+struct DiagramFont {
   std::string name = "MS Sans Serif";
   int pointSize = 8;
   bool bold = false;
@@ -43,8 +43,8 @@ class Canvas {
   void SetBrushColour(Colour colour);
   void SetBrushStyle(BrushStyle style);
   BrushStyle CurrentBrushStyle() const { return brushStyle_; }
-  void SetFont(const FontSpec& font);
-  const FontSpec& Font() const { return font_; }
+  void SetFont(const DiagramFont& font);
+  const DiagramFont& Font() const { return font_; }
   void SetFontColour(Colour colour);
   Colour FontColour() const { return fontColour_; }
 
@@ -82,7 +82,7 @@ class Canvas {
   Colour brushColour_ = kWhite;
   BrushStyle brushStyle_ = BrushStyle::Solid;
   Colour fontColour_ = kBlack;
-  FontSpec font_;
+  DiagramFont font_;
   QFont qfont_;
   QFontMetrics metrics_;
   QPoint position_;

@@ -10,11 +10,11 @@ void InstallFontSubstitutions() {
   std::call_once(installed, [] { QFont::insertSubstitution(kDiagramFontName, kSubstituteFontName); });
 }
 
-QFont MakeQFont(const FontSpec& spec) {
-  QFont font(QString::fromStdString(spec.name));
-  font.setPointSize(spec.pointSize);
-  font.setBold(spec.bold);
-  return font;
+QFont MakeQFont(const DiagramFont& font) {
+  QFont made(QString::fromStdString(font.name));
+  made.setPointSize(font.pointSize);
+  made.setBold(font.bold);
+  return made;
 }
 
 }  // namespace diagram

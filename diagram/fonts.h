@@ -13,6 +13,6 @@ inline constexpr const char* kSubstituteFontName = "DejaVu Sans";
 // Makes "MS Sans Serif" resolve to DejaVu Sans; safe to call any number of times.
 void InstallFontSubstitutions();
 
-QFont MakeQFont(const FontSpec& spec);
+QFont MakeQFont(const DiagramFont& font);
 
 }  // namespace diagram

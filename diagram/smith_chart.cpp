@@ -46,7 +46,7 @@ class SavedStyle {
   Colour pen_;
   PenStyle style_;
   BrushStyle brush_;
-  FontSpec font_;
+  DiagramFont font_;
   Colour fontColour_;
 };
 
@@ -54,7 +54,7 @@ void PrepareCanvas(const Diagram& d, Canvas& c) {
   c.SetPenStyle(PenStyle::Solid);
   c.SetBrushStyle(BrushStyle::Clear);
   c.SetClipRect(d.pixLeft, d.pixTop, d.pixRight + 1, d.pixBottom + 1);
-  FontSpec font;
+  DiagramFont font;
   font.pointSize = SmithLabelPointSize(d.width, d.height);
   c.SetFont(font);
 }

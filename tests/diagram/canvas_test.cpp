@@ -28,7 +28,7 @@ TEST(Canvas, ColoursAreBlueGreenRedFromTheHighByteDown) {
 
 TEST(Canvas, TheHistoricSansSerifIsSubstituted) {
   InstallFontSubstitutions();
-  const QFontInfo info(MakeQFont(FontSpec{}));
+  const QFontInfo info(MakeQFont(DiagramFont{}));
   EXPECT_EQ(info.family(), kSubstituteFontName);
 }
 
@@ -44,7 +44,7 @@ TEST(Canvas, TextStandsBelowAndRightOfItsCorner) {
 
 TEST(Canvas, ARotatedFontWritesUpwards) {
   Picture p(120, 120);
-  FontSpec rotated;
+  DiagramFont rotated;
   rotated.orientation = 900;
   p.canvas().SetFont(rotated);
   p.canvas().TextOut(60, 110, "Gain in dB");
