@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "figures_command.h"
+#include "render_command.h"
 #include "series_command.h"
 
 namespace app {
@@ -21,6 +22,7 @@ int RunHelp(const std::vector<std::string>&, std::ostream& out, std::ostream&) {
 constexpr HeadlessMode kModes[] = {
     {"--figures", RunFiguresCommand},
     {"--series", RunSeriesCommand},
+    {"--render", RunRenderCommand},
     {"--help", RunHelp},
     {"-h", RunHelp},
 };
@@ -35,6 +37,11 @@ std::string UsageText() {
          "      Print the gain and stability figures of every point of FILE as CSV:\n"
          "      f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs\n" +
          SeriesUsageText() +
+         "  netrix --render VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline] FILE...\n"
+         "      Draw up to four files into a picture without a display. VIEW is smith (S11 and\n"
+         "      S22 in the Smith chart, up to six constant-Q arcs), polar (S21 and S12) or\n"
+         "      cartesian (|S21| in dB against frequency). The format follows the extension of\n"
+         "      PATH: .png, .bmp, .jpg, .gif or .pdf. Default size 768x576, chart z.\n"
          "  netrix --help\n"
          "      Show this text.\n";
 }

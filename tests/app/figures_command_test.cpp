@@ -25,7 +25,9 @@ class FiguresCommandTest : public testing::Test {
  protected:
   void SetUp() override { numerics::DataSets() = {}; }
   std::string WriteFixture(const std::string& content) {
-    const std::string path = testing::TempDir() + testing::UnitTest::GetInstance()->current_test_info()->name() + ".s2p";
+    // One file per test: CTest runs the tests of this suite side by side.
+    const std::string path =
+        testing::TempDir() + "figures_fixture_" + testing::UnitTest::GetInstance()->current_test_info()->name() + ".s2p";
     std::ofstream(path, std::ios::binary) << content;
     return path;
   }

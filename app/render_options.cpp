@@ -1,0 +1,92 @@
+#include "render_options.h"
+
+#include <cstdio>
+#include <string_view>
+
+#include "numerics/prefixed_number.h"
+#include "numerics/real_functions.h"
+
+namespace app {
+namespace {
+
+// Q values as the constant-Q dialog takes them: with a unit prefix, limited to this range.
+constexpr double kLowestQ = 0.01;
+constexpr double kHighestQ = 10000;
+
+std::string ParseSize(const std::string& text, RenderOptions& o) {
+  int width = 0, height = 0;
+  char extra = 0;
+  const bool twoNumbers = std::sscanf(text.c_str(), "%dx%d%c", &width, &height, &extra) == 2;
+  const auto inRange = [](int v) { return v >= kMinRenderSide && v <= kMaxRenderSide; };
+  if (!twoNumbers || !inRange(width) || !inRange(height)) {
+    return "--size needs WIDTHxHEIGHT with sides from 64 to 10000 pixels, for example --size 1024x768";
+  }
+  o.width = width;
+  o.height = height;
+  return {};
+}
+
+std::string ParseChart(const std::string& text, RenderOptions& o) {
+  if (text == "z") o.chart = diagram::ChartKind::Impedance;
+  else if (text == "y") o.chart = diagram::ChartKind::Admittance;
+  else if (text == "zy") o.chart = diagram::ChartKind::Combined;
+  else return "--chart takes z, y or zy, not \"" + text + "\"";
+  return {};
+}
+
+std::string ParseQ(const std::string& text, RenderOptions& o) {
+  const numerics::ParsedValue q = numerics::ParseValueText(text);
+  if (q.status != numerics::kParseDigitsRead) return "--q needs a number such as 2 or 0.5, not \"" + text + "\"";
+  if (o.qValues.size() == kMaxQArcs) return "at most six --q arcs can be drawn";
+  o.qValues.push_back(numerics::ClampValue(kHighestQ, kLowestQ, q.value));
+  return {};
+}
+
+// Handles the option at args[i] (and its value); returns an error text or "".
+std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, RenderOptions& o) {
+  const std::string& name = args[i];
+  if (name == "--no-spline") {
+    o.spline = false;
+    return {};
+  }
+  if (name != "--out" && name != "--size" && name != "--chart" && name != "--q") {
+    return "unknown option \"" + name + "\"";
+  }
+  if (i + 1 >= args.size()) return name + " needs a value";
+  const std::string& value = args[++i];
+  if (name == "--out") o.outPath = value;
+  if (name == "--size") return ParseSize(value, o);
+  if (name == "--chart") return ParseChart(value, o);
+  if (name == "--q") return ParseQ(value, o);
+  return {};
+}
+
+std::string CheckComplete(const RenderOptions& o) {
+  if (o.outPath.empty()) return "--out PATH is missing, for example --out smith.png";
+  if (o.files.empty()) return "name one to four S-parameter files to draw";
+  if (o.files.size() > kMaxRenderFiles) return "no more than 4 files can be drawn at once";
+  return {};
+}
+
+}  // namespace
+
+ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args) {
+  ParsedRenderOptions parsed;
+  RenderOptions& o = parsed.options;
+  if (args.empty() || args.front().starts_with("--")) {
+    parsed.error = "the view comes first, for example: netrix --render smith --out smith.png FILE";
+    return parsed;
+  }
+  o.view = args.front();
+  for (std::size_t i = 1; i < args.size() && parsed.error.empty(); ++i) {
+    if (std::string_view(args[i]).starts_with("--")) {
+      parsed.error = ParseOption(args, i, o);
+    } else {
+      o.files.push_back(args[i]);
+    }
+  }
+  if (parsed.error.empty()) parsed.error = CheckComplete(o);
+  return parsed;
+}
+
+}  // namespace app

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "diagram/smith_chart.h"
+
+// The command line of netrix --render, parsed but not yet checked against the views, the
+// picture formats and the file system.
+namespace app {
+
+inline constexpr int kMaxRenderFiles = 4;
+inline constexpr int kMaxQArcs = 6;
+inline constexpr int kMinRenderSide = 64;
+inline constexpr int kMaxRenderSide = 10000;
+
+struct RenderOptions {
+  std::string view;
+  std::string outPath;
+  int width = 768;
+  int height = 576;
+  diagram::ChartKind chart = diagram::ChartKind::Impedance;
+  std::vector<double> qValues;
+  bool spline = true;
+  std::vector<std::string> files;
+};
+
+struct ParsedRenderOptions {
+  RenderOptions options;
+  std::string error;  // what is wrong with the command line, empty when nothing is
+};
+
+// args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline] FILE...
+ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
+
+}  // namespace app

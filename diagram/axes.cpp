@@ -1,0 +1,73 @@
+#include "axes.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "axis.h"
+#include "scaling.h"
+#include "ticks.h"
+
+namespace diagram {
+namespace {
+
+int Rounded(double v) { return static_cast<int>(std::nearbyint(v)); }
+
+void Line(Canvas& c, int x1, int y1, int x2, int y2) {
+  c.MoveTo(x1, y1);
+  c.LineTo(x2, y2);
+}
+
+void DrawHorizontalAxis(const Diagram& d, bool flip, Canvas& c, double step) {
+  const int row = YToPixel(d, d.yCross);
+  Line(c, d.pixLeft, row, d.pixRight, row);
+  const int back = XArrowLength(d);
+  const int side = Rounded(0.003 * d.height + 1);
+  Line(c, d.pixRight, row, d.pixRight - back, row - side);
+  Line(c, d.pixRight, row, d.pixRight - back, row + side);
+  const int length = std::max(2, Rounded(std::sqrt(d.pixBottom / 20.0)));
+  const int end = flip ? row - length : row + length;
+  for (const double v : TickValues(XAxisOf(d), step)) {
+    const int column = XToPixel(d, v);
+    Line(c, column, row, column, end);
+  }
+}
+
+void DrawVerticalAxis(const Diagram& d, bool flip, Canvas& c, double step) {
+  const int column = XToPixel(d, d.xCross);
+  Line(c, column, d.pixBottom, column, d.pixTop);
+  const int back = Rounded(0.01 * d.height + 1);
+  const int side = Rounded(0.003 * d.width + 1);
+  Line(c, column, d.pixTop, column - side, d.pixTop + back);
+  Line(c, column, d.pixTop, column + side, d.pixTop + back);
+  const int length = std::max(2, Rounded(std::sqrt(d.pixRight / 30.0)));
+  const int end = flip ? column + length : column - length;
+  for (const double v : TickValues(YAxisOf(d), step)) {
+    const int row = YToPixel(d, v);
+    Line(c, column, row, end, row);
+  }
+}
+
+}  // namespace
+
+int XArrowLength(const Diagram& d) { return Rounded(0.006 * d.width + 1); }
+
+void ClearDiagram(Colour colour, Canvas& canvas) {
+  canvas.SetBrushStyle(BrushStyle::Solid);
+  canvas.SetBrushColour(colour);
+  canvas.FillRect(0, 0, canvas.Width(), canvas.Height());
+}
+
+void SetDrawColour(Colour colour, Canvas& canvas) {
+  canvas.SetPenColour(colour);
+  canvas.SetFontColour(colour);
+}
+
+void DrawAxes(const Diagram& d, bool flipX, bool flipY, Canvas& canvas, double yStep, double xStep) {
+  const PenStyle saved = canvas.CurrentPenStyle();
+  canvas.SetPenStyle(PenStyle::Solid);
+  DrawHorizontalAxis(d, flipX, canvas, xStep);
+  DrawVerticalAxis(d, flipY, canvas, yStep);
+  canvas.SetPenStyle(saved);
+}
+
+}  // namespace diagram

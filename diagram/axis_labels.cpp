@@ -1,0 +1,80 @@
+#include "axis_labels.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "axes.h"
+#include "axis.h"
+#include "numerics/prefixed_number.h"
+#include "numerics/text_functions.h"
+#include "scaling.h"
+#include "ticks.h"
+
+namespace diagram {
+namespace {
+
+constexpr int kMostDecimals = 3;
+
+std::string LabelText(int decimals, double value) {
+  return numerics::TrimLeftText(numerics::FormatPrefixed(decimals, value));
+}
+
+// The fewest decimals with which every label, read back, gives its own value.
+int DecimalsFor(const std::vector<double>& values) {
+  double largest = 0;
+  for (const double v : values) largest = std::max(largest, std::fabs(v));
+  const double tolerance = 1e-6 * largest;
+  for (int decimals = 0; decimals < kMostDecimals; ++decimals) {
+    const bool exact = std::all_of(values.begin(), values.end(), [&](double v) {
+      return std::fabs(numerics::ParseValueText(LabelText(decimals, v)).value - v) <= tolerance;
+    });
+    if (exact) return decimals;
+  }
+  return kMostDecimals;
+}
+
+std::vector<AxisLabel> LabelsOf(const Axis& a) {
+  if (a.mode != AxisMode::Log && a.min == a.max) return {};
+  const std::vector<double> values = LabelValues(a);
+  const int decimals = DecimalsFor(values);
+  std::vector<AxisLabel> labels;
+  for (const double v : values) labels.push_back({v, LabelText(decimals, v)});
+  return labels;
+}
+
+}  // namespace
+
+std::vector<AxisLabel> XAxisLabels(const Diagram& d) { return LabelsOf(XAxisOf(d)); }
+std::vector<AxisLabel> YAxisLabels(const Diagram& d) { return LabelsOf(YAxisOf(d)); }
+
+void DrawAxisLabels(const Diagram& d, LabelPlacement placement, Canvas& canvas) {
+  const int row = YToPixel(d, d.yCross);
+  for (const AxisLabel& label : XAxisLabels(d)) {
+    const int width = canvas.TextWidth(label.text);
+    const int top = placement.xLabelsAbove ? row - 20 : row + 4;
+    canvas.TextOut(XToPixel(d, label.value) - width / 2, top, label.text);
+  }
+  const int column = XToPixel(d, d.xCross);
+  for (const AxisLabel& label : YAxisLabels(d)) {
+    if (label.value == d.yCross) continue;  // the horizontal axis and its labels stand there
+    const int width = canvas.TextWidth(label.text);
+    const int left = placement.yLabelsRight ? column + 4 : column - 4 - width;
+    canvas.TextOut(left, YToPixel(d, label.value) - canvas.TextHeight(label.text) / 2, label.text);
+  }
+}
+
+void DrawXTitle(const Diagram& d, std::string_view text, bool below, Canvas& canvas) {
+  const int row = YToPixel(d, d.yCross);
+  const int left = d.pixRight - XArrowLength(d) - 4 - canvas.TextWidth(text);
+  canvas.TextOut(left, below ? row + 4 : row - canvas.TextHeight(text) - 3, text);
+}
+
+void DrawYTitle(const Diagram& d, std::string_view text, Canvas& canvas) {
+  const int width = canvas.TextWidth(text);
+  const int centred = XToPixel(d, d.xCross) - width / 2;
+  const int left = std::clamp(centred, 0, std::max(0, d.width - width));
+  // Clear of the label at the top of the axis, which is centred on the arrow's tip.
+  canvas.TextOut(left, d.pixTop - canvas.TextHeight(text) * 3 / 2 - 2, text);
+}
+
+}  // namespace diagram

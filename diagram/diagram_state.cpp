@@ -1,0 +1,10 @@
+#include "diagram_state.h"
+
+namespace diagram {
+
+Diagram& CurrentDiagram() {
+  static Diagram state;
+  return state;
+}
+
+}  // namespace diagram

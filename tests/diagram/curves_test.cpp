@@ -1,0 +1,99 @@
+#include "diagram/curves.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "diagram/scaling.h"
+#include "picture.h"
+
+namespace diagram {
+namespace {
+
+using test::ColourAt;
+using test::CountNotWhite;
+using test::CountNotWhiteOutside;
+using test::Picture;
+
+// 400 x 300 picture, both axes 0 .. 10: frame 48 .. 366 by 27 .. 263.
+class CurveTest : public testing::Test {
+ protected:
+  CurveTest() { SetupAxes(d_, 400, 300, 10, 0, 10, 0); }
+  QRect Frame() const { return QRect(QPoint(d_.pixLeft, d_.pixTop), QPoint(d_.pixRight, d_.pixBottom)); }
+  Diagram d_;
+  Picture picture_{400, 300};
+};
+
+TEST_F(CurveTest, APointAboveTheRangeBreaksTheCurveInTwo) {
+  const std::vector<double> x = {1, 2, 3, 4, 5}, y = {2, 3, 20, 3, 2};
+  DrawCurve(d_, x, y, 5, picture_.canvas());
+  const QImage& image = picture_.Finish();
+  const int x1 = XToPixel(d_, 1), x2 = XToPixel(d_, 2), x4 = XToPixel(d_, 4), x5 = XToPixel(d_, 5);
+  EXPECT_EQ(ColourAt(image, (x1 + x2) / 2, YToPixel(d_, 2.5)), kBlack);
+  EXPECT_EQ(ColourAt(image, (x4 + x5) / 2, YToPixel(d_, 2.5)), kBlack);
+  EXPECT_EQ(CountNotWhite(image, QRect(QPoint(x2 + 1, 0), QPoint(x4 - 1, 299))), 0);
+}
+
+TEST_F(CurveTest, APointOnTheFrameEdgeIsNotJoinedEither) {
+  const std::vector<double> x = {0, 5, 10}, y = {5, 5, 5};
+  DrawCurve(d_, x, y, 3, picture_.canvas());
+  EXPECT_EQ(CountNotWhite(picture_.Finish(), QRect(0, 0, 400, 300)), 0);
+}
+
+TEST_F(CurveTest, CurvesStartAtFirstIndex) {
+  d_.firstIndex = 1;
+  const std::vector<double> x = {1, 5, 9}, y = {1, 5, 9};
+  DrawCurve(d_, x, y, 3, picture_.canvas());
+  const QImage& image = picture_.Finish();
+  EXPECT_TRUE(test::HasColourNear(image, XToPixel(d_, 7), YToPixel(d_, 7), 1, kBlack));
+  EXPECT_EQ(CountNotWhite(image, QRect(QPoint(0, YToPixel(d_, 4.5)), QPoint(XToPixel(d_, 4.5), 299))), 0);
+}
+
+TEST_F(CurveTest, NothingIsDrawnOutsideTheFrame) {
+  const std::vector<double> x = {-50, 1, 2, 30, 4, 5, 6, -1e9, 8, 9}, y = {5, -40, 3, 4, 1e6, 6, -2, 8, 9, 40};
+  DrawCurve(d_, x, y, 10, picture_.canvas());
+  for (const std::uint8_t kind : {kMarkerSquare, kMarkerCircle, kMarkerCross, std::uint8_t{0}}) {
+    DrawMarkers(d_, x, y, kind, 10, picture_.canvas());
+  }
+  const QImage& image = picture_.Finish();
+  EXPECT_EQ(CountNotWhiteOutside(image, Frame()), 0);
+  EXPECT_GT(CountNotWhite(image, Frame()), 0);
+}
+
+TEST_F(CurveTest, MarkersGrowWithThePictureAndSkipTheEdge) {
+  EXPECT_EQ(MarkerSize(d_), 2);  // round((366 + 263) / 500 + 1)
+  const std::vector<double> x = {0, 5}, y = {5, 5};
+  DrawMarkers(d_, x, y, kMarkerCross, 2, picture_.canvas());
+  const QImage& image = picture_.Finish();
+  const int cx = XToPixel(d_, 5), cy = YToPixel(d_, 5);
+  for (const QPoint corner : {QPoint(-2, -2), QPoint(2, 2), QPoint(-2, 2), QPoint(2, -2), QPoint(0, 0)}) {
+    EXPECT_EQ(ColourAt(image, cx + corner.x(), cy + corner.y()), kBlack);
+  }
+  EXPECT_EQ(ColourAt(image, cx + 2, cy), kWhite);
+  EXPECT_EQ(CountNotWhite(image, QRect(40, 0, 15, 300)), 0);  // the point on pixLeft has none
+}
+
+TEST_F(CurveTest, TheSquareMarkerHangsBelowThePoint) {
+  const std::vector<double> x = {5}, y = {5};
+  DrawMarkers(d_, x, y, kMarkerSquare, 1, picture_.canvas());
+  const QImage& image = picture_.Finish();
+  const int cx = XToPixel(d_, 5), cy = YToPixel(d_, 5);
+  EXPECT_EQ(CountNotWhite(image, QRect(0, 0, 400, cy)), 0);
+  EXPECT_EQ(ColourAt(image, cx - 2, cy + 2), kBlack);
+  EXPECT_EQ(ColourAt(image, cx + 2, cy), kBlack);
+}
+
+TEST_F(CurveTest, TheTextStartsOrEndsAtTheFirstPoint) {
+  const std::vector<double> x = {2, 3}, y = {2, 3};
+  DrawCurveWithText(d_, x, y, false, 2, picture_.canvas(), "first");
+  const std::vector<double> x2 = {8, 9}, y2 = {8, 7};
+  DrawCurveWithText(d_, x2, y2, true, 2, picture_.canvas(), "second");
+  const QImage& image = picture_.Finish();
+  const int row2 = YToPixel(d_, 2), row8 = YToPixel(d_, 8);
+  EXPECT_GT(CountNotWhite(image, QRect(XToPixel(d_, 2) + 1, row2 + 1, 25, 10)), 10);
+  EXPECT_GT(CountNotWhite(image, QRect(XToPixel(d_, 8) - 30, row8 + 1, 29, 10)), 10);
+  EXPECT_EQ(CountNotWhite(image, QRect(XToPixel(d_, 2) - 30, row2 + 1, 29, 10)), 0);
+}
+
+}  // namespace
+}  // namespace diagram

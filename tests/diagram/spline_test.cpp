@@ -1,0 +1,103 @@
+#include "diagram/spline.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+#include <array>
+#include <cmath>
+#include <vector>
+
+namespace diagram {
+namespace {
+
+using Samples = std::array<double, kSplineCapacity>;
+
+struct Curve {
+  Samples x{}, y{};
+  int lastIndex = 0;
+};
+
+Curve Make(const std::vector<double>& x, const std::vector<double>& y) {
+  Curve c;
+  std::copy(x.begin(), x.end(), c.x.begin());
+  std::copy(y.begin(), y.end(), c.y.begin());
+  c.lastIndex = static_cast<int>(x.size()) - 1;
+  return c;
+}
+
+struct CountCase {
+  const char* name;
+  int lastIndex, maxPoints, expected;
+};
+void PrintTo(const CountCase& c, std::ostream* os) { *os << c.name; }
+
+class SplineCountTest : public testing::TestWithParam<CountCase> {};
+
+TEST_P(SplineCountTest, CutsEveryIntervalIntoMaxPointsDivLastIndexParts) {
+  const CountCase& c = GetParam();
+  std::vector<double> x, y;
+  for (int i = 0; i <= c.lastIndex; ++i) {
+    x.push_back(i);
+    y.push_back(i * 0.5);
+  }
+  Curve curve = Make(x, y);
+  SplineResample(curve.x, curve.y, curve.lastIndex, false, false, c.maxPoints);
+  EXPECT_EQ(curve.lastIndex, c.expected) << c.name;
+  EXPECT_DOUBLE_EQ(curve.x[static_cast<std::size_t>(curve.lastIndex)], c.lastIndex) << c.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, SplineCountTest,
+                         testing::Values(CountCase{"three is never splined", 3, 300, 3},
+                                         CountCase{"four to three hundred", 4, 300, 300},
+                                         CountCase{"more than 300 asked", 4, 1000, 300},
+                                         CountCase{"k below two", 200, 300, 200},
+                                         CountCase{"k exactly two", 150, 300, 300},
+                                         CountCase{"uneven division", 7, 300, 294}));
+
+TEST(Spline, ReproducesAStraightLine) {
+  Curve c = Make({0, 1, 3, 4, 7}, {1, 3, 7, 9, 15});  // y = 2x + 1 at uneven x
+  SplineResample(c.x, c.y, c.lastIndex, false, false, 300);
+  ASSERT_EQ(c.lastIndex, 300);
+  for (int i = 0; i <= c.lastIndex; ++i) {
+    const auto k = static_cast<std::size_t>(i);
+    EXPECT_NEAR(c.y[k], 2 * c.x[k] + 1, 1e-12) << i;
+  }
+}
+
+TEST(Spline, MatchesANaturalSplineWorkedOutByHand) {
+  // Knots 0..4 with a single bump at 2. The second derivatives solve
+  // 4 M1 + M2 = 6, M1 + 4 M2 + M3 = -12, M2 + 4 M3 = 6: M1 = M3 = 18/7, M2 = -30/7, so
+  // S(0.5) = M1 / 48 - 0.5 M1 / 6 = -9/56 and S(1.5) = (M1 + M2) / 48 + 0.5 (1 - (M1 + M2) / 6) = 17/28.
+  Curve c = Make({0, 1, 2, 3, 4}, {0, 0, 1, 0, 0});
+  SplineResample(c.x, c.y, c.lastIndex, false, false, 8);
+  ASSERT_EQ(c.lastIndex, 8);
+  EXPECT_DOUBLE_EQ(c.x[1], 0.5);
+  EXPECT_NEAR(c.y[1], -9.0 / 56, 1e-15);
+  EXPECT_NEAR(c.y[3], 17.0 / 28, 1e-15);
+  EXPECT_NEAR(c.y[5], 17.0 / 28, 1e-15);  // symmetric
+  EXPECT_EQ(c.y[4], 1);                   // the knots stay
+  EXPECT_EQ(c.y[8], 0);
+}
+
+TEST(Spline, LogYLosesTheSign) {
+  Curve c = Make({1, 2, 3, 4, 5}, {-0.5, -0.5, -0.5, -0.5, -0.5});
+  SplineResample(c.x, c.y, c.lastIndex, false, true, 300);
+  for (int i = 0; i <= c.lastIndex; ++i) EXPECT_NEAR(c.y[static_cast<std::size_t>(i)], 0.5, 1e-12) << i;
+}
+
+TEST(Spline, LogXSpacesTheNewPointsGeometrically) {
+  // y = ln x is a straight line in ln x, so the spline keeps it.
+  Curve c = Make({1e6, 1e7, 1e8, 1e9, 1e10}, {});
+  for (int i = 0; i <= 4; ++i) c.y[static_cast<std::size_t>(i)] = std::log(c.x[static_cast<std::size_t>(i)]);
+  SplineResample(c.x, c.y, c.lastIndex, true, false, 20);
+  ASSERT_EQ(c.lastIndex, 20);
+  EXPECT_NEAR(c.x[1], 1e6 * std::pow(10.0, 0.2), 1e-3);
+  for (int i = 0; i <= 20; ++i) {
+    const auto k = static_cast<std::size_t>(i);
+    EXPECT_NEAR(c.y[k], std::log(c.x[k]), 1e-9) << i;
+  }
+}
+
+}  // namespace
+}  // namespace diagram
