@@ -1,15 +1,13 @@
 #include "file_reader.h"
 
-#include <cerrno>
 #include <cmath>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <memory>
 #include <optional>
 
 #include "prefixed_number.h"
 #include "real_functions.h"
+#include "text_file.h"
 
 namespace numerics {
 namespace {
@@ -19,37 +17,9 @@ constexpr double kLowestFrequency = 1e-9;
 constexpr double kHighestFrequency = 1e15;
 constexpr int kMostLeadingBlankReads = 20;
 constexpr int kMostFieldReads = 199;
-// The reader stops after 254 records, so no sensible data file comes near this; the cap
-// keeps a device or a runaway file from filling memory.
-constexpr std::size_t kMostBytesRead = 64U << 20;
-
 struct ReadFailure {
   std::string message;
 };
-
-std::optional<std::string> ReadWholeFile(const std::string& fileName, std::string& error) {
-  std::error_code ec;
-  if (!std::filesystem::is_regular_file(fileName, ec)) {
-    error = "File " + fileName + " is not a regular file. Choose an S-parameter data file.";
-    return std::nullopt;
-  }
-  std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(fileName.c_str(), "rb"), &std::fclose);
-  if (!file) {
-    error = "File " + fileName + " cannot be opened: " + std::strerror(errno) + ".";
-    return std::nullopt;
-  }
-  std::string content;
-  char buffer[65536];
-  std::size_t got = 0;
-  while (content.size() < kMostBytesRead && (got = std::fread(buffer, 1, sizeof buffer, file.get())) > 0) {
-    content.append(buffer, got);
-  }
-  if (std::ferror(file.get())) {
-    error = "File " + fileName + " cannot be read: " + std::strerror(errno) + ".";
-    return std::nullopt;
-  }
-  return content;
-}
 
 double FoldOnce(double angle) {
   if (angle > 180) return angle - 360;
@@ -172,9 +142,11 @@ LoadOutcome LoadTwoPortFile(DataSetStore& store, const std::string& fileName) {
     return {LoadStatus::Missing, 0, "File " + fileName + " is not present!"};
   }
   if (store.openCount >= kMaxDataSets) return LoadTwoPortText(store, {}, fileName);
-  std::string error;
-  const std::optional<std::string> content = ReadWholeFile(fileName, error);
-  if (!content) return {LoadStatus::Unreadable, 0, error};
+  std::string reason;
+  const std::optional<std::string> content = ReadTextFile(fileName, reason);
+  if (!content) {
+    return {LoadStatus::Unreadable, 0, "File " + fileName + " cannot be read (" + reason + "). Choose an S-parameter data file."};
+  }
   return LoadTwoPortText(store, *content, fileName);
 }
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <cmath>
 #include <complex>
 #include <random>
@@ -48,6 +50,8 @@ TEST(ComplexValue, EdgeCasesOfTheProgram) {
 struct AngleCase {
   double re, im, magnitude, angle;
 };
+
+void PrintTo(const AngleCase& c, std::ostream* os) { *os << "(" << c.re << ", " << c.im << ")"; }
 
 class ToggleFormTest : public testing::TestWithParam<AngleCase> {};
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <cmath>
 #include <string>
 
@@ -13,6 +15,8 @@ struct ParseCase {
   double value;
   int status;
 };
+
+void PrintTo(const ParseCase& c, std::ostream* os) { *os << '"' << c.text << '"'; }
 
 class ParseValueTextTest : public testing::TestWithParam<ParseCase> {};
 
@@ -62,6 +66,8 @@ struct EntryCase {
   double metres;
 };
 
+void PrintTo(const EntryCase& c, std::ostream* os) { *os << '"' << c.text << '"'; }
+
 class ParseEntryTextTest : public testing::TestWithParam<EntryCase> {};
 
 TEST_P(ParseEntryTextTest, ConvertsLengthUnits) {
@@ -84,6 +90,8 @@ struct FormatCase {
   double value;
   const char* text;
 };
+
+void PrintTo(const FormatCase& c, std::ostream* os) { *os << c.value << " -> \"" << c.text << '"'; }
 
 class FormatPrefixedTest : public testing::TestWithParam<FormatCase> {};
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <cmath>
 #include <limits>
 
@@ -14,6 +16,8 @@ struct RoundCase {
   double input;
   double expected;
 };
+
+void PrintTo(const RoundCase& c, std::ostream* os) { *os << c.name; }
 
 class RoundingTest : public testing::TestWithParam<RoundCase> {};
 
