@@ -14,7 +14,9 @@ void ScaleAll(Matrix2& m, double factor) {
 
 // The bilinear map shared by S->Y and Y->S: with a = m11, d = m22 and the product p = m12*m21,
 // out11 = ((1 - a)(1 + d) + p) / D, out22 = ((1 + a)(1 - d) + p) / D, out12 = -2 m12 / D.
-Matrix2 BilinearTransform(const Matrix2& m, const ComplexValue& denominator) {
+// Divisors shared by several quotients are taken in Polar form once, as Div would take them.
+Matrix2 BilinearTransform(const Matrix2& m, const ComplexValue& divisor) {
+  const ComplexValue denominator = AsPolar(divisor);
   const ComplexValue product = Mul(m.m12, m.m21);
   Matrix2 out;
   out.m12 = Div(Scale(m.m12, -2), denominator);
@@ -61,20 +63,22 @@ void ConvertYToZ(TwoPortState& st) {
   LiftIfTiny(st.y.m12);
   LiftIfTiny(st.y.m21);
   st.detY = DeterminantY(st);
-  st.z.m11 = Div(st.y.m22, st.detY);
-  st.z.m22 = Div(st.y.m11, st.detY);
-  st.z.m12 = Div(Negated(st.y.m12), st.detY);
-  st.z.m21 = Div(Negated(st.y.m21), st.detY);
+  const ComplexValue d = AsPolar(st.detY);
+  st.z.m11 = Div(st.y.m22, d);
+  st.z.m22 = Div(st.y.m11, d);
+  st.z.m12 = Div(Negated(st.y.m12), d);
+  st.z.m21 = Div(Negated(st.y.m21), d);
 }
 
 void ConvertYToH(TwoPortState& st) {
   LiftIfTiny(st.y.m12);
   LiftIfTiny(st.y.m21);
   st.detY = DeterminantY(st);
-  st.h.m11 = Inverse(st.y.m11);
-  st.h.m12 = Div(Negated(st.y.m12), st.y.m11);
-  st.h.m21 = Div(st.y.m21, st.y.m11);
-  st.h.m22 = Div(st.detY, st.y.m11);
+  const ComplexValue y11 = AsPolar(st.y.m11);
+  st.h.m11 = Inverse(y11);
+  st.h.m12 = Div(Negated(st.y.m12), y11);
+  st.h.m21 = Div(st.y.m21, y11);
+  st.h.m22 = Div(st.detY, y11);
 }
 
 void ConvertYToPi(TwoPortState& st) {
@@ -87,10 +91,11 @@ void ConvertYToPi(TwoPortState& st) {
 void ConvertYToChain(TwoPortState& st) {
   LiftIfTiny(st.y.m21);
   st.detY = DeterminantY(st);
-  st.chain.a = Negated(Div(st.y.m22, st.y.m21));
-  st.chain.b = Negated(Inverse(st.y.m21));
-  st.chain.c = Negated(Div(st.detY, st.y.m21));
-  st.chain.d = Negated(Div(st.y.m11, st.y.m21));
+  const ComplexValue y21 = AsPolar(st.y.m21);
+  st.chain.a = Negated(Div(st.y.m22, y21));
+  st.chain.b = Negated(Inverse(y21));
+  st.chain.c = Negated(Div(st.detY, y21));
+  st.chain.d = Negated(Div(st.y.m11, y21));
 }
 
 void ConvertChainToImage(TwoPortState& st) {
@@ -101,7 +106,7 @@ void ConvertChainToImage(TwoPortState& st) {
 
 void ApplyCommonLeadFeedback(TwoPortState& st) {
   const ComplexValue v = Inverse(st.commonLeadImpedance);
-  const ComplexValue s = Add(Add(Add(Add(st.y.m11, st.y.m12), st.y.m21), st.y.m22), v);
+  const ComplexValue s = AsPolar(Add(Add(Add(Add(st.y.m11, st.y.m12), st.y.m21), st.y.m22), v));
   st.detY = DeterminantY(st);
   const ComplexValue w = Add(Div(st.detY, s), st.feedbackAdmittance);
   st.y.m11 = Add(Div(Mul(st.y.m11, v), s), w);
