@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <cassert>
 
 #include "diagram/scaling.h"
 #include "numerics/prefixed_number.h"
@@ -32,6 +33,7 @@ void TGraphImage::Draw(const pagegraphs::PageScene& scene) {
 }
 
 void TGraphImage::Paint(QPainter& painter, const QRect& rect) const {
+  assert(drawn_ && "an output page is drawn before its picture is used");
   painter.save();
   painter.translate(rect.topLeft());
   painter.setClipRect(QRect(QPoint(0, 0), rect.size()));

@@ -85,7 +85,13 @@ void TSDIAppForm::StringGridFilesSelectCell(int row) {
 }
 
 bool TSDIAppForm::CalculateSeries() {
-  const SeriesEvaluation evaluation = EvaluateSeries(series_, OutputSettings(), results_);
+  const SeriesSettings settings = OutputSettings();
+  if (settings.density && !(settings.area > 0)) {
+    ShowMessage(this, tr("The current density needs a transistor area above 0 µm². Enter the area, then "
+                         "calculate again!"));
+    return false;
+  }
+  const SeriesEvaluation evaluation = EvaluateSeries(series_, settings, results_);
   for (const std::string& message : evaluation.messages) ShowMessage(this, QString::fromStdString(message));
   return evaluation.completed;
 }

@@ -1,6 +1,7 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -40,6 +41,7 @@ class SeriesPageTest : public QObject {
   void AnsweringYesMovesTheFileUp();
   void AnsweringNoKeepsTheOrder();
   void CalculateWithAnEmptyListAsksForFiles();
+  void DensityNeedsAnArea();
   void FilesWithoutCurrentAreReported_data();
   void FilesWithoutCurrentAreReported();
 
@@ -244,6 +246,21 @@ void SeriesPageTest::CalculateWithAnEmptyListAsksForFiles() {
   mainwin_test::MessageLog log;
   QTest::mouseClick(Find<QPushButton>("BitBtnCalc"), Qt::LeftButton);
   QCOMPARE(log.Messages(), QStringList({"Please drag s2p file(s) to the program."}));
+}
+
+void SeriesPageTest::DensityNeedsAnArea() {
+  ShowSeriesPage(false);
+  Window().FilesDropped(SeriesFiles(2));
+  Find<QCheckBox>("CheckBoxDensity")->setChecked(true);
+  Find<QLineEdit>("AreaEingabe")->setText("0");
+  mainwin_test::MessageLog log;
+  QTest::mouseClick(Find<QPushButton>("BitBtnCalc"), Qt::LeftButton);
+  QCOMPARE(log.Messages(), QStringList({"The current density needs a transistor area above 0 µm². Enter the area, "
+                                        "then calculate again!"}));
+  QVERIFY(Window().Results().empty());
+  Find<QLineEdit>("AreaEingabe")->setText("500");
+  QTest::mouseClick(Find<QPushButton>("BitBtnCalc"), Qt::LeftButton);
+  QCOMPARE(Window().Results().size(), std::size_t{2});
 }
 
 void SeriesPageTest::FilesWithoutCurrentAreReported_data() {
