@@ -41,8 +41,10 @@ int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::o
   if (!parsed.error.empty()) return Fail(err, parsed.error);
   const RenderOptions& o = parsed.options;
   const RenderView* view = FindRenderView(o.view);
-  if (view == nullptr) return Fail(err, "unknown view \"" + o.view + "\"; use " + RenderViewNames() + " for S-parameter files, or " +
-                                         SeriesViewNames() + " for a bias series");
+  if (view == nullptr) {
+    return Fail(err, "unknown view \"" + o.view + "\"; use " + RenderViewNames() + " for S-parameter files, or " +
+                         SeriesViewNames() + " for a bias series");
+  }
   const PictureFormat* format = FindPictureFormat(o.outPath);
   if (format == nullptr) {
     return Fail(err, "cannot tell the picture format of \"" + o.outPath + "\"; end the name in " + PictureExtensions());

@@ -32,10 +32,20 @@ QMenu* TSDIAppForm::BuildGraphicMenu() {
   fmaxonly1_ = AddCheckItem(menu, "fmaxonly1", tr("f&max only"));
   mAGMSGonly1_ = AddCheckItem(menu, "MAGMSGonly1", tr("&MAG/MSG only"));
   konly1_ = AddCheckItem(menu, "konly1", tr("&k only"));
-  connect(fTonly1_, &QAction::triggered, this, [this] { ToggleGraphicItem(fTonly1_, fmaxonly1_, 2, OutputPage::FtFmax); });
-  connect(fmaxonly1_, &QAction::triggered, this, [this] { ToggleGraphicItem(fmaxonly1_, fTonly1_, 2, OutputPage::FtFmax); });
-  connect(mAGMSGonly1_, &QAction::triggered, this, [this] { ToggleGraphicItem(mAGMSGonly1_, konly1_, 3, OutputPage::KMag); });
-  connect(konly1_, &QAction::triggered, this, [this] { ToggleGraphicItem(konly1_, mAGMSGonly1_, 3, OutputPage::KMag); });
+  struct Toggle {
+    QAction* item;
+    QAction* partner;
+    int redrawOnPage;
+    OutputPage page;
+  };
+  const Toggle toggles[] = {{fTonly1_, fmaxonly1_, 2, OutputPage::FtFmax},
+                            {fmaxonly1_, fTonly1_, 2, OutputPage::FtFmax},
+                            {mAGMSGonly1_, konly1_, 3, OutputPage::KMag},
+                            {konly1_, mAGMSGonly1_, 3, OutputPage::KMag}};
+  for (const Toggle& t : toggles) {
+    connect(t.item, &QAction::triggered, this,
+            [this, t] { ToggleGraphicItem(t.item, t.partner, t.redrawOnPage, t.page); });
+  }
   menu->addSeparator();
   connect(AddAction(menu, "ShowAll1", tr("Show &All"), tr("Show every series on the graph pages")),
           &QAction::triggered, this, &TSDIAppForm::ShowAll1Click);

@@ -28,7 +28,8 @@ constexpr int kTablePage = 6;
 }  // namespace
 
 void TSDIAppForm::AddOutputItems(QMenu* menu) {
-  connect(AddAction(menu, "ExportData1", tr("&Export Data to ASCII File..."), tr("Perform calculations and export to file")),
+  connect(AddAction(menu, "ExportData1", tr("&Export Data to ASCII File..."),
+                    tr("Perform calculations and export to file")),
           &QAction::triggered, this, &TSDIAppForm::ExportData);
   connect(AddAction(menu, "SaveGraphBMP1", tr("Save Graph as &BMP..."), tr("Save the graph of the page as a BMP file")),
           &QAction::triggered, this, [this] { SaveGraphPicture(false); });
@@ -99,7 +100,9 @@ bool TSDIAppForm::RefuseWithoutTwoFiles() {
 // Every output is drawn afresh, as entering its page would.
 void TSDIAppForm::PrintAllWindows1Click() {
   if (RefuseWithoutTwoFiles()) return;
-  for (const OutputPage page : {OutputPage::FtFmax, OutputPage::KMag, OutputPage::StabilityLimit}) RedrawGraphPage(page);
+  for (const OutputPage page : {OutputPage::FtFmax, OutputPage::KMag, OutputPage::StabilityLimit}) {
+    RedrawGraphPage(page);
+  }
   FillResultTable();
   PrintSheets({GraphSheet(OutputPage::FtFmax), GraphSheet(OutputPage::KMag), GraphSheet(OutputPage::StabilityLimit),
                TableSheet()});

@@ -15,6 +15,13 @@ constexpr double kNoLimit = 1e-6;
 constexpr double kLeastGainAxisTop = 15;
 constexpr double kKScale = 10;
 
+double FT(const FileFigures& f) { return f.fT; }
+double Fmax(const FileFigures& f) { return f.fmax; }
+double K(const FileFigures& f) { return f.k; }
+double KTimesTen(const FileFigures& f) { return kKScale * f.k; }
+double MagDb(const FileFigures& f) { return f.magDb; }
+double Limit(const FileFigures& f) { return f.fk; }
+
 PlotSeries Series(const PlotSeries& look, const SeriesArrays& results, double (*value)(const FileFigures&)) {
   PlotSeries series = look;
   for (const FileFigures& file : results) series.y.push_back(value(file));
@@ -26,8 +33,8 @@ PageGraph FtFmaxGraph(const PageScene& scene) {
   PageGraph graph{XValues(scene), {}, XAxisTitle(scene.settings), "fT & fmax in Hz"};
   if (c.fTOnly) graph.yTitle = "fT in Hz";
   if (c.fmaxOnly) graph.yTitle = "fmax in Hz";
-  if (!c.fmaxOnly) graph.series.push_back(Series(kFirstSeries, scene.results, [](const FileFigures& f) { return f.fT; }));
-  if (!c.fTOnly) graph.series.push_back(Series(kSecondSeries, scene.results, [](const FileFigures& f) { return f.fmax; }));
+  if (!c.fmaxOnly) graph.series.push_back(Series(kFirstSeries, scene.results, FT));
+  if (!c.fTOnly) graph.series.push_back(Series(kSecondSeries, scene.results, Fmax));
   return graph;
 }
 
@@ -37,21 +44,21 @@ PageGraph KMagGraph(const PageScene& scene) {
   if (c.kOnly) {
     graph.yTitle = "k Factor";
     graph.leastYMax = 0;
-    graph.series.push_back(Series(kFirstSeries, scene.results, [](const FileFigures& f) { return f.k; }));
+    graph.series.push_back(Series(kFirstSeries, scene.results, K));
     return graph;
   }
   if (c.magMsgOnly) {
     graph.yTitle = "MAG/MSG in dB";
   } else {
-    graph.series.push_back(Series(kFirstSeries, scene.results, [](const FileFigures& f) { return kKScale * f.k; }));
+    graph.series.push_back(Series(kFirstSeries, scene.results, KTimesTen));
   }
-  graph.series.push_back(Series(kSecondSeries, scene.results, [](const FileFigures& f) { return f.magDb; }));
+  graph.series.push_back(Series(kSecondSeries, scene.results, MagDb));
   return graph;
 }
 
 PageGraph StabilityGraph(const PageScene& scene) {
   PageGraph graph{XValues(scene), {}, XAxisTitle(scene.settings), "f(k>1) in Hz"};
-  graph.series.push_back(Series(kFirstSeries, scene.results, [](const FileFigures& f) { return f.fk; }));
+  graph.series.push_back(Series(kFirstSeries, scene.results, Limit));
   const std::vector<double>& fk = graph.series.front().y;
   // The warning stands where the axis title would, not in a message box.
   if (fk.empty() || *std::max_element(fk.begin(), fk.end()) <= kNoLimit) {

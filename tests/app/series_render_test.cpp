@@ -27,7 +27,8 @@ const QRgb kGreenPixel = qRgb(0, 128, 0);
 class SeriesRenderTest : public testing::Test {
  protected:
   void SetUp() override {
-    folder_ = fs::path(testing::TempDir()) / ("series_render_" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+    const std::string test = testing::UnitTest::GetInstance()->current_test_info()->name();
+    folder_ = fs::path(testing::TempDir()) / ("series_render_" + test);
     fs::remove_all(folder_);
     fs::create_directories(folder_);
     files_ = {Write("first.s2p", kFirst), Write("second.s2p", kSecond)};
@@ -120,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ErrorCase{"no_file", {"--out", "x.png"}, "name the files of the bias series"},
                     ErrorCase{"bad_size", {"--size", "9x9", "--out", "x.png", "@"}, "--size needs WIDTHxHEIGHT"},
                     ErrorCase{"size_without_value", {"--out", "x.png", "@", "--size"}, "--size needs a value"},
-                    ErrorCase{"render_option_of_the_file_views", {"--chart", "z", "--out", "x.png", "@"}, "unknown option --chart"},
+                    ErrorCase{"option_of_the_file_views", {"--chart", "z", "--out", "x.png", "@"}, "unknown option --chart"},
                     ErrorCase{"bad_series_option", {"--fo", "high", "--out", "x.png", "@"}, "--fo needs a number"},
                     ErrorCase{"unknown_extension", {"--out", "x.tif", "@"}, "end the name in .png"},
                     ErrorCase{"unreadable_file", {"--out", "x.png", "/nonexistent/a.s2p"}, "cannot be read"}),
