@@ -24,16 +24,16 @@ PrinterHandler& PrinterAnswer() {
 
 }  // namespace
 
-QString ChooseSaveFile(QWidget* parent, const SaveDialogSpec& spec) {
-  if (SaveFileAnswer()) return SaveFileAnswer()(spec);
-  QFileDialog dialog(parent, spec.title);
-  dialog.setObjectName(spec.name);
+QString ChooseSaveFile(QWidget* parent, const SaveDialogSetup& setup) {
+  if (SaveFileAnswer()) return SaveFileAnswer()(setup);
+  QFileDialog dialog(parent, setup.title);
+  dialog.setObjectName(setup.name);
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setNameFilter(spec.filter);
-  dialog.setDefaultSuffix(spec.defaultSuffix);
+  dialog.setNameFilter(setup.filter);
+  dialog.setDefaultSuffix(setup.defaultSuffix);
   dialog.setDirectory(QSettings().value(kSaveDirectoryKey, QDir::currentPath()).toString());
-  dialog.selectFile(spec.initialName);
+  dialog.selectFile(setup.initialName);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return QString();
   QSettings().setValue(kSaveDirectoryKey, dialog.directory().absolutePath());
   return dialog.selectedFiles().front();

@@ -10,7 +10,7 @@ class QWidget;
 // through here, so that a test chooses the file or the printer instead of a person.
 namespace mainwin {
 
-struct SaveDialogSpec {
+struct SaveDialogSetup {
   const char* name;       // object name of the dialog, e.g. "SaveDialogSPA"
   QString title;
   QString filter;         // Qt filter text, e.g. "Data Files (*.spa)"
@@ -20,11 +20,11 @@ struct SaveDialogSpec {
 
 enum class PrinterDialog { Print, PageSetup };
 
-using SaveFileHandler = std::function<QString(const SaveDialogSpec& spec)>;
+using SaveFileHandler = std::function<QString(const SaveDialogSetup& setup)>;
 using PrinterHandler = std::function<bool(PrinterDialog dialog, QPrinter& printer)>;
 
 // The chosen path; empty when the user cancelled.
-QString ChooseSaveFile(QWidget* parent, const SaveDialogSpec& spec);
+QString ChooseSaveFile(QWidget* parent, const SaveDialogSetup& setup);
 // The print dialog on printer; false when the user cancelled.
 bool ChoosePrinter(QWidget* parent, QPrinter& printer);
 // The page set-up dialog on printer; false when the user cancelled.

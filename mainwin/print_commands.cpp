@@ -142,10 +142,10 @@ void TSDIAppForm::CopyImage1Click() {
 void TSDIAppForm::SaveGraphPicture(bool jpeg) {
   TGraphPage* page = ShownGraphPage();
   if (!page) return;
-  const SaveDialogSpec spec =
-      jpeg ? SaveDialogSpec{"SaveDialogJPG", tr("Save Graph to JPG File"), tr("JPG Files (*.jpg)"), "jpg", QString()}
-           : SaveDialogSpec{"SaveDialogBMP", tr("Save Graph to BMP File"), tr("BMP Files (*.bmp)"), "bmp", QString()};
-  const QString path = ChooseSaveFile(this, spec);
+  const SaveDialogSetup setup =
+      jpeg ? SaveDialogSetup{"SaveDialogJPG", tr("Save Graph to JPG File"), tr("JPG Files (*.jpg)"), "jpg", QString()}
+           : SaveDialogSetup{"SaveDialogBMP", tr("Save Graph to BMP File"), tr("BMP Files (*.bmp)"), "bmp", QString()};
+  const QString path = ChooseSaveFile(this, setup);
   if (path.isEmpty()) return;
   const QImage& picture = page->Image().Picture();
   const imageexport::ExportResult written =

@@ -70,8 +70,8 @@ QuestionLog::QuestionLog(bool answer)
 
 DialogAnswers::DialogAnswers(const QString& savePath, const QString& pdfPath)
     : interception_(
-          [this, savePath](const mainwin::SaveDialogSpec& spec) {
-            saveTitles_.append(spec.title);
+          [this, savePath](const mainwin::SaveDialogSetup& setup) {
+            saveTitles_.append(setup.title);
             return savePath;
           },
           [this, pdfPath](mainwin::PrinterDialog dialog, QPrinter& printer) {

@@ -51,8 +51,8 @@ class OutputPagesTest : public QObject {
   void YTitleAndLegendFollowTheMenu();
   void UnstableDeviceTitle_data();
   void UnstableDeviceTitle();
-  void TableCells_data();
-  void TableCells();
+  void TableCellsAndCommentEdits_data();
+  void TableCellsAndCommentEdits();
   void TableClearsRowsOfRemovedFiles();
   void ExportMatchesTheEngineByteForByte_data();
   void ExportMatchesTheEngineByteForByte();
@@ -230,14 +230,14 @@ void OutputPagesTest::UnstableDeviceTitle() {
   QCOMPARE(Drawn(OutputPage::StabilityLimit).series.front().y, (std::vector<double>{limit, limit}));
 }
 
-void OutputPagesTest::TableCells_data() {
+void OutputPagesTest::TableCellsAndCommentEdits_data() {
   QTest::addColumn<bool>("density");
   QTest::addColumn<bool>("comment");
   QTest::newRow("plain") << false << false;
   QTest::newRow("with density and comment") << true << true;
 }
 
-void OutputPagesTest::TableCells() {
+void OutputPagesTest::TableCellsAndCommentEdits() {
   QFETCH(bool, density);
   QFETCH(bool, comment);
   Find<QCheckBox>("CheckBoxDensity")->setChecked(density);
@@ -256,6 +256,8 @@ void OutputPagesTest::TableCells() {
     QVERIFY(grid->Cells(4, row).endsWith("dB"));
   }
   QCOMPARE(Find<QLineEdit>("EditComment3")->text(), comment ? QString("lot 7 wafer 3") : QString("Output"));
+  ShowTab(4);
+  QCOMPARE(Find<QLineEdit>("EditComment4")->text(), comment ? QString("lot 7 wafer 3") : QString("Graphic"));
 }
 
 void OutputPagesTest::TableClearsRowsOfRemovedFiles() {
