@@ -42,6 +42,11 @@ std::string UsageText() {
          "      S22 in the Smith chart, up to six constant-Q arcs), polar (S21 and S12) or\n"
          "      cartesian (|S21| in dB against frequency). The format follows the extension of\n"
          "      PATH: .png, .bmp, .jpg, .gif or .pdf. Default size 768x576, chart z.\n"
+         "  netrix --render ft-fmax|k-mag|stability-limit --out PATH [--size WxH] [--connect]\n"
+         "                 [series options] FILE...\n"
+         "      Evaluate up to 40 files as a bias series (the options of --series) and draw the\n"
+         "      graph of the output page: fT and fmax, k and MAG/MSG, or the stability limit\n"
+         "      f(k>1) against the x-axis choice. --connect joins the points in list order.\n"
          "  netrix --help\n"
          "      Show this text.\n";
 }

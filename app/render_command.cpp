@@ -1,8 +1,6 @@
 #include "render_command.h"
 
-#include <QGuiApplication>
 #include <QPainter>
-#include <cassert>
 #include <filesystem>
 #include <memory>
 #include <ostream>
@@ -12,29 +10,10 @@
 #include "render_options.h"
 #include "render_output.h"
 #include "render_views.h"
+#include "series_render.h"
 
 namespace app {
 namespace {
-
-// Fonts need a GUI application; this mode makes one for itself, on the offscreen platform
-// unless the environment asks for another, so that it runs without a display.
-class GuiSession {
- public:
-  GuiSession() {
-    if (QCoreApplication::instance() != nullptr) {
-      assert(qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr && "text needs a GUI application");
-      return;
-    }
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    application_ = std::make_unique<QGuiApplication>(argc_, argv_);
-  }
-
- private:
-  static inline char name_[] = "netrix";
-  static inline char* argv_[] = {name_, nullptr};
-  static inline int argc_ = 1;
-  std::unique_ptr<QGuiApplication> application_;
-};
 
 // Reads the files into a store of the command's own; the first failure is the message.
 std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, RenderScene& scene) {
@@ -55,11 +34,17 @@ int Fail(std::ostream& err, const std::string& message) {
 }  // namespace
 
 int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::ostream& err) {
+  if (const SeriesView* series = args.empty() ? nullptr : FindSeriesView(args.front())) {
+    return RunSeriesRender(*series, {args.begin() + 1, args.end()}, err);
+  }
   const ParsedRenderOptions parsed = ParseRenderOptions(args);
   if (!parsed.error.empty()) return Fail(err, parsed.error);
   const RenderOptions& o = parsed.options;
   const RenderView* view = FindRenderView(o.view);
-  if (view == nullptr) return Fail(err, "unknown view \"" + o.view + "\"; use " + RenderViewNames());
+  if (view == nullptr) {
+    return Fail(err, "unknown view \"" + o.view + "\"; use " + RenderViewNames() + " for S-parameter files, or " +
+                         SeriesViewNames() + " for a bias series");
+  }
   const PictureFormat* format = FindPictureFormat(o.outPath);
   if (format == nullptr) {
     return Fail(err, "cannot tell the picture format of \"" + o.outPath + "\"; end the name in " + PictureExtensions());

@@ -13,19 +13,6 @@ namespace {
 constexpr double kLowestQ = 0.01;
 constexpr double kHighestQ = 10000;
 
-std::string ParseSize(const std::string& text, RenderOptions& o) {
-  int width = 0, height = 0;
-  char extra = 0;
-  const bool twoNumbers = std::sscanf(text.c_str(), "%dx%d%c", &width, &height, &extra) == 2;
-  const auto inRange = [](int v) { return v >= kMinRenderSide && v <= kMaxRenderSide; };
-  if (!twoNumbers || !inRange(width) || !inRange(height)) {
-    return "--size needs WIDTHxHEIGHT with sides from 64 to 10000 pixels, for example --size 1024x768";
-  }
-  o.width = width;
-  o.height = height;
-  return {};
-}
-
 std::string ParseChart(const std::string& text, RenderOptions& o) {
   if (text == "z") o.chart = diagram::ChartKind::Impedance;
   else if (text == "y") o.chart = diagram::ChartKind::Admittance;
@@ -55,7 +42,7 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
   if (i + 1 >= args.size()) return name + " needs a value";
   const std::string& value = args[++i];
   if (name == "--out") o.outPath = value;
-  if (name == "--size") return ParseSize(value, o);
+  if (name == "--size") return ParseSize(value, o.width, o.height);
   if (name == "--chart") return ParseChart(value, o);
   if (name == "--q") return ParseQ(value, o);
   return {};
@@ -69,6 +56,19 @@ std::string CheckComplete(const RenderOptions& o) {
 }
 
 }  // namespace
+
+std::string ParseSize(const std::string& text, int& width, int& height) {
+  int w = 0, h = 0;
+  char extra = 0;
+  const bool twoNumbers = std::sscanf(text.c_str(), "%dx%d%c", &w, &h, &extra) == 2;
+  const auto inRange = [](int v) { return v >= kMinRenderSide && v <= kMaxRenderSide; };
+  if (!twoNumbers || !inRange(w) || !inRange(h)) {
+    return "--size needs WIDTHxHEIGHT with sides from 64 to 10000 pixels, for example --size 1024x768";
+  }
+  width = w;
+  height = h;
+  return {};
+}
 
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args) {
   ParsedRenderOptions parsed;

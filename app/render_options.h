@@ -30,6 +30,9 @@ struct ParsedRenderOptions {
   std::string error;  // what is wrong with the command line, empty when nothing is
 };
 
+// Reads "WIDTHxHEIGHT" with sides from 64 to 10000 pixels; returns an error text or "".
+std::string ParseSize(const std::string& text, int& width, int& height);
+
 // args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline] FILE...
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
 

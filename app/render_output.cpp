@@ -1,8 +1,10 @@
 #include "render_output.h"
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
+#include <cassert>
 #include <cctype>
 #include <iterator>
 
@@ -32,6 +34,10 @@ constexpr PictureFormat kFormats[] = {
     {".pdf", imageexport::SavePdf},
 };
 
+char gApplicationName[] = "netrix";
+char* gArguments[] = {gApplicationName, nullptr};
+int gArgumentCount = 1;
+
 std::string LowerCase(std::string_view text) {
   std::string lower(text);
   std::transform(lower.begin(), lower.end(), lower.begin(),
@@ -57,5 +63,16 @@ std::string PictureExtensions() {
   }
   return list;
 }
+
+GuiSession::GuiSession() {
+  if (QCoreApplication::instance() != nullptr) {
+    assert(qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr && "text needs a GUI application");
+    return;
+  }
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  application_ = std::make_unique<QGuiApplication>(gArgumentCount, gArguments);
+}
+
+GuiSession::~GuiSession() = default;
 
 }  // namespace app

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "imageexport/export_result.h"
 
+class QGuiApplication;
 class QPainter;
 
 // The picture formats of netrix --render, chosen by the extension of the output path.
@@ -22,5 +24,19 @@ struct PictureFormat {
 const PictureFormat* FindPictureFormat(std::string_view path);
 // ".png, .bmp, .jpg, .gif or .pdf", for messages.
 std::string PictureExtensions();
+
+// Text needs a GUI application: the session makes one for the render mode, on the offscreen
+// platform unless the environment asks for another, so that no display is needed. Where the
+// process has a GUI application already, it uses that one.
+class GuiSession {
+ public:
+  GuiSession();
+  ~GuiSession();
+  GuiSession(const GuiSession&) = delete;
+  GuiSession& operator=(const GuiSession&) = delete;
+
+ private:
+  std::unique_ptr<QGuiApplication> application_;
+};
 
 }  // namespace app

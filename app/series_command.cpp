@@ -10,14 +10,6 @@
 namespace app {
 namespace {
 
-// The first 40 files make the series; a further one is refused with the list's own message.
-mainwin::SeriesList MakeSeries(const std::vector<std::string>& files, std::ostream& err) {
-  mainwin::SeriesList list;
-  list.Append(files);
-  if (files.size() > list.SeriesCount()) err << list.Append({files[list.SeriesCount()]}).message << '\n';
-  return list;
-}
-
 bool WriteTable(const std::string& content, const SeriesOptions& options, std::ostream& out, std::ostream& err) {
   if (!options.outPath) {
     out << content << std::flush;
@@ -31,6 +23,13 @@ bool WriteTable(const std::string& content, const SeriesOptions& options, std::o
 }
 
 }  // namespace
+
+mainwin::SeriesList MakeSeries(const std::vector<std::string>& files, std::ostream& err) {
+  mainwin::SeriesList list;
+  list.Append(files);
+  if (files.size() > list.SeriesCount()) err << list.Append({files[list.SeriesCount()]}).message << '\n';
+  return list;
+}
 
 int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
   SeriesOptions options;

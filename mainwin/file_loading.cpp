@@ -10,7 +10,6 @@
 
 #include "frequency_page.h"
 #include "history_list.h"
-#include "input_page.h"
 #include "main_window.h"
 #include "message_box.h"
 #include "numerics/data_set.h"
@@ -98,19 +97,12 @@ void TSDIAppForm::FilesDropped(const QStringList& paths) {
   if (paths.isEmpty()) return;
   if (pageNumber_ == 1) {
     if (!RefuseWhenStoreFull()) LoadFrequencyFile(paths.front());
-  } else if (pageNumber_ == 2) {
+  } else {
     AppendSeriesFiles(paths);
   }
 }
 
-void TSDIAppForm::AppendSeriesFiles(const QStringList& paths) {
-  std::vector<std::string> names;
-  for (const QString& path : paths) names.push_back(QFileInfo(path).absoluteFilePath().toStdString());
-  const AppendResult result = series_.Append(names);
-  if (!result.message.empty()) ShowMessage(this, QString::fromStdString(result.message));
-  inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
-}
-
+// The output pages take no drops; the handler would extend the series there as well.
 void TSDIAppForm::dragEnterEvent(QDragEnterEvent* event) {
   if (pageNumber_ <= 2 && event->mimeData()->hasUrls()) event->acceptProposedAction();
 }

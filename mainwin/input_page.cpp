@@ -6,11 +6,18 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
+#include "controls/string_align_grid.h"
+#include "mainwin/engine/series_list.h"
+#include "mainwin/engine/table_cells.h"
 #include "numerics/prefixed_number.h"
 #include "numerics/text_functions.h"
+#include "output_pages.h"
 
 namespace mainwin {
 namespace {
@@ -33,6 +40,16 @@ double EntryValue(const QLineEdit* edit, double fallback) {
   return parsed.status == numerics::kParseDigitsRead ? parsed.value : fallback;
 }
 
+constexpr int kFileRows = static_cast<int>(kMaxSeriesFiles) + 1;  // row 0 is not used
+
+QToolButton* MakeToolButton(QWidget* parent, const char* name, QStyle::StandardPixmap icon, const QString& hint) {
+  auto* button = new QToolButton(parent);
+  button->setObjectName(name);
+  button->setIcon(parent->style()->standardIcon(icon));
+  SetHint(button, hint);
+  return button;
+}
+
 QString PrefixedEntry(double value) {
   return ' ' + QString::fromStdString(numerics::FormatPrefixedField(7, 2, value));
 }
@@ -40,16 +57,63 @@ QString PrefixedEntry(double value) {
 }  // namespace
 
 InputPage::InputPage(QWidget* parent) : QWidget(parent) {
-  labelNo_ = new QLabel(this);
-  labelNo_->setObjectName("LabelNo");
-  ShowSeriesCount(0);
   auto* layout = new QGridLayout(this);
-  layout->addWidget(labelNo_, 0, 0, Qt::AlignTop);
+  layout->setContentsMargins(4, 4, 4, 4);
+  layout->addWidget(MakeFileList(), 0, 0, 3, 1);
   layout->addWidget(MakeEntries(), 0, 1);
   layout->addWidget(MakeMultiplier(), 0, 2);
-  layout->addWidget(MakeOptions(), 1, 1);
+  layout->addWidget(MakeOptions(), 1, 1, 2, 1);
   layout->addWidget(MakeXAxisChoice(), 1, 2);
+  layout->addWidget(MakeActions(), 2, 2, Qt::AlignBottom);
   layout->setColumnStretch(0, 1);
+}
+
+// The series grid: one column, no header; row r shows file r, so row 0 stays hidden.
+QWidget* InputPage::MakeFileList() {
+  auto* column = new QWidget(this);
+  auto* layout = new QVBoxLayout(column);
+  layout->setContentsMargins(0, 0, 0, 0);
+  labelNo_ = new QLabel(column);
+  labelNo_->setObjectName("LabelNo");
+  ShowSeriesCount(0);
+  stringGridFiles_ = new controls::TStringAlignGrid(1, kFileRows, column);
+  stringGridFiles_->setObjectName("StringGridFiles");
+  stringGridFiles_->SetDefaultColumnWidth(234);
+  stringGridFiles_->SetDefaultRowHeight(18);
+  stringGridFiles_->setRowHidden(0, true);
+  stringGridFiles_->setFont(CompactFont(stringGridFiles_->font()));
+  stringGridFiles_->setTextElideMode(Qt::ElideLeft);  // the file name at the end stays readable
+  stringGridFiles_->setMinimumWidth(240);
+  connect(stringGridFiles_, &QTableWidget::cellClicked, this, [this](int row) { emit FileRowSelected(row); });
+  auto* deleteList = MakeToolButton(column, "SpeedButtonDeleteList", QStyle::SP_TrashIcon, tr("Delete Complete List"));
+  auto* deleteLast =
+      MakeToolButton(column, "SpeedButtonDeletaLastFile", QStyle::SP_DialogDiscardButton, tr("Delete Last File"));
+  connect(deleteList, &QToolButton::clicked, this, &InputPage::DeleteListClicked);
+  connect(deleteLast, &QToolButton::clicked, this, &InputPage::DeleteLastClicked);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(labelNo_, 1);
+  buttons->addWidget(deleteList);
+  buttons->addWidget(deleteLast);
+  layout->addLayout(buttons);
+  layout->addWidget(stringGridFiles_, 1);
+  return column;
+}
+
+QWidget* InputPage::MakeActions() {
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  auto* calculate = new QPushButton(tr("Calculate"), row);
+  calculate->setObjectName("BitBtnCalc");
+  SetHint(calculate, tr("Perform calculations "));
+  auto* exportButton = new QPushButton(tr("Export"), row);
+  exportButton->setObjectName("BitBtn1");
+  SetHint(exportButton, tr("Perform calculations and export to file"));
+  connect(calculate, &QPushButton::clicked, this, &InputPage::CalculateClicked);
+  connect(exportButton, &QPushButton::clicked, this, &InputPage::ExportClicked);
+  layout->addWidget(calculate);
+  layout->addWidget(exportButton);
+  return row;
 }
 
 QLineEdit* InputPage::MakeEntry(const char* name, const QString& text) {
@@ -94,8 +158,10 @@ QWidget* InputPage::MakeMultiplier() {
 QWidget* InputPage::MakeXAxisChoice() {
   auto* group = new QGroupBox(tr("x-Axis in Graphic Output :"), this);
   auto* layout = new QVBoxLayout(group);
-  layout->addWidget(MakeButton<QRadioButton>(group, "RadioButtonFileNo", tr("File Number"), false));
-  layout->addWidget(MakeButton<QRadioButton>(group, "RadioButtonIc", tr("Current Ic"), true));
+  radioButtonFileNo_ = MakeButton<QRadioButton>(group, "RadioButtonFileNo", tr("File Number"), false);
+  radioButtonIc_ = MakeButton<QRadioButton>(group, "RadioButtonIc", tr("Current Ic"), true);
+  layout->addWidget(radioButtonFileNo_);
+  layout->addWidget(radioButtonIc_);
   layout->addWidget(MakeButton<QRadioButton>(group, "RadioButtonId", tr("Current Id"), false));
   checkBoxDensity_ = MakeButton<QCheckBox>(group, "CheckBoxDensity", tr("Show vs j"), false);
   layout->addWidget(checkBoxDensity_);
@@ -106,15 +172,17 @@ QWidget* InputPage::MakeOptions() {
   auto* group = new QGroupBox(tr("Options"), this);
   auto* layout = new QVBoxLayout(group);
   checkBoxConnect_ = MakeButton<QCheckBox>(group, "CheckBoxConnect", tr("Connect Points in Graphic"), false);
-  auto* autoCalculate = MakeButton<QCheckBox>(group, "CheckBoxAutoCalculate", tr("Auto Calculate"), true);
-  SetHint(autoCalculate, tr("during draging the files, slower but more comfortable operation"));
+  checkBoxAutoCalculate_ = MakeButton<QCheckBox>(group, "CheckBoxAutoCalculate", tr("Auto Calculate"), true);
+  SetHint(checkBoxAutoCalculate_, tr("during draging the files, slower but more comfortable operation"));
+  checkBoxU_ = MakeButton<QCheckBox>(group, "CheckBoxU", tr("fmax with U"), false);
+  checkBoxComment_ = MakeButton<QCheckBox>(group, "CheckBoxComment", tr("Put Comment to Outputs"), false);
   memoComment_ = new QPlainTextEdit(group);
   memoComment_->setObjectName("MemoComment");
   memoComment_->setFixedHeight(48);
   layout->addWidget(checkBoxConnect_);
-  layout->addWidget(MakeButton<QCheckBox>(group, "CheckBoxU", tr("fmax with U"), false));
-  layout->addWidget(autoCalculate);
-  layout->addWidget(MakeButton<QCheckBox>(group, "CheckBoxComment", tr("Put Comment to Outputs"), false));
+  layout->addWidget(checkBoxU_);
+  layout->addWidget(checkBoxAutoCalculate_);
+  layout->addWidget(checkBoxComment_);
   layout->addWidget(memoComment_);
   return group;
 }
@@ -153,5 +221,34 @@ IniSettings InputPage::CurrentSettings() const {
 void InputPage::ShowSeriesCount(int count) {
   labelNo_->setText(tr("Number of files = ") + QString::number(count));
 }
+
+void InputPage::ShowFileRow(int row, const std::string& path) {
+  stringGridFiles_->SetCells(0, row, QString::fromStdString(FileListPathText(path)));
+}
+
+void InputPage::ClearFileRows(int first, int last) {
+  for (int row = first; row <= last; ++row) stringGridFiles_->ClearRow(row);
+}
+
+SeriesSettings InputPage::EvaluationSettings() const {
+  const IniSettings entries = CurrentSettings();
+  SeriesSettings s;
+  s.fo = entries.fo;
+  s.multiplier = entries.fMultiplier;
+  s.lgnd = entries.lgnd;
+  s.withLgnd = entries.withLgnd;
+  s.fmaxFromU = checkBoxU_->isChecked();
+  s.xAxis = radioButtonIc_->isChecked()       ? XAxisChoice::CurrentIc
+            : radioButtonFileNo_->isChecked() ? XAxisChoice::FileNumber
+                                              : XAxisChoice::CurrentId;
+  s.area = entries.area;
+  s.density = entries.jOutput;
+  return s;
+}
+
+bool InputPage::AutoCalculate() const { return checkBoxAutoCalculate_->isChecked(); }
+bool InputPage::ConnectPoints() const { return checkBoxConnect_->isChecked(); }
+bool InputPage::CommentToOutputs() const { return checkBoxComment_->isChecked(); }
+QString InputPage::Comment() const { return memoComment_->toPlainText(); }
 
 }  // namespace mainwin

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
 
+#include "mainwin/engine/series_settings.h"
 #include "settings_file.h"
 
 class QCheckBox;
@@ -10,10 +12,16 @@ class QLineEdit;
 class QPlainTextEdit;
 class QRadioButton;
 
+namespace controls {
+class TStringAlignGrid;
+}
+
 namespace mainwin {
 
-// The entry controls of page 2, "Input: Extracted F.O.M. vs Parameter": analysis frequency,
-// ground inductance, area, frequency multiplier, x-axis choice, options and the comment.
+// The controls of page 2, "Input: Extracted F.O.M. vs Parameter": the series file list with its
+// buttons, analysis frequency, ground inductance, area, frequency multiplier, x-axis choice,
+// options, the comment, and the buttons that calculate and export. The series itself is the
+// main window's; the page shows it and reports what the user asks for.
 class InputPage : public QWidget {
   Q_OBJECT
 
@@ -25,8 +33,27 @@ class InputPage : public QWidget {
   // The values to store; an edit without digits keeps the value it was last given.
   IniSettings CurrentSettings() const;
   void ShowSeriesCount(int count);
+  // Row r (1..40) of StringGridFiles shows the path, abbreviated when long.
+  void ShowFileRow(int row, const std::string& path);
+  void ClearFileRows(int first, int last);
+
+  // What the series evaluation and the output pages are asked for; the comment is left empty.
+  SeriesSettings EvaluationSettings() const;
+  bool AutoCalculate() const;
+  bool ConnectPoints() const;
+  bool CommentToOutputs() const;
+  QString Comment() const;
+
+ signals:
+  void FileRowSelected(int row);
+  void DeleteListClicked();
+  void DeleteLastClicked();
+  void CalculateClicked();
+  void ExportClicked();
 
  private:
+  QWidget* MakeFileList();
+  QWidget* MakeActions();
   QWidget* MakeEntries();
   QWidget* MakeMultiplier();
   QWidget* MakeXAxisChoice();
@@ -35,6 +62,7 @@ class InputPage : public QWidget {
 
   IniSettings shown_;
   QLabel* labelNo_ = nullptr;
+  controls::TStringAlignGrid* stringGridFiles_ = nullptr;
   QLineEdit* foEingabe_ = nullptr;
   QLineEdit* lgndEingabe_ = nullptr;
   QLineEdit* areaEingabe_ = nullptr;
@@ -44,6 +72,11 @@ class InputPage : public QWidget {
   QCheckBox* checkBoxLgnd_ = nullptr;
   QCheckBox* checkBoxDensity_ = nullptr;
   QCheckBox* checkBoxConnect_ = nullptr;
+  QCheckBox* checkBoxU_ = nullptr;
+  QCheckBox* checkBoxAutoCalculate_ = nullptr;
+  QCheckBox* checkBoxComment_ = nullptr;
+  QRadioButton* radioButtonFileNo_ = nullptr;
+  QRadioButton* radioButtonIc_ = nullptr;
   QPlainTextEdit* memoComment_ = nullptr;
 };
 

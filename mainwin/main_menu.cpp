@@ -26,6 +26,7 @@ QAction* TSDIAppForm::AddAction(QMenu* menu, const char* name, const QString& ca
 
 void TSDIAppForm::BuildMenus() {
   menuBar()->addMenu(BuildFileMenu());
+  menuBar()->addMenu(BuildGraphicMenu());
   menuBar()->addMenu(BuildToolsMenu());
   QMenu* options = menuBar()->addMenu(tr("&Options"));
   options->setObjectName("Optionen1");
@@ -47,9 +48,7 @@ QMenu* TSDIAppForm::BuildFileMenu() {
   historyList1_ = new THistoryList(fileMenu_, base, this);
   historyList1_->setObjectName("HistoryList1");
   fileMenu_->addSeparator();
-  drucken1_ = AddAction(fileMenu_, "Drucken1", tr("&Print"), tr("Print window"));
-  drucken1_->setShortcut(QKeySequence::Print);
-  connect(drucken1_, &QAction::triggered, this, &TSDIAppForm::Drucken1Click);
+  AddOutputItems(fileMenu_);
   fileMenu_->addSeparator();
   QAction* exit = AddAction(fileMenu_, "Exit1", tr("&Exit"), tr("Leave the program"));
   exit->setShortcut(QKeySequence(Qt::ALT | Qt::Key_X));

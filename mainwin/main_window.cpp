@@ -3,10 +3,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
-#include <QMenuBar>
 #include <QFileInfo>
-#include <QPainter>
-#include <QPrintDialog>
+#include <QLineEdit>
+#include <QMenuBar>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QSettings>
@@ -18,6 +17,8 @@
 #include "controls/string_align_grid.h"
 #include "form_set.h"
 #include "frequency_page.h"
+#include "graph_image.h"
+#include "graph_page.h"
 #include "help_boxes.h"
 #include "history_list.h"
 #include "input_page.h"
@@ -68,6 +69,8 @@ TSDIAppForm::TSDIAppForm(FormSet& forms, const QStringList& arguments)
   FormCreate(arguments);
 }
 
+TSDIAppForm::~TSDIAppForm() = default;
+
 QWidget* TSDIAppForm::BuildNotebook() {
   auto* central = new QWidget(this);
   tabSet1_ = MakeTabSet(central);
@@ -75,19 +78,26 @@ QWidget* TSDIAppForm::BuildNotebook() {
   notebook1_->setObjectName("Notebook1");
   frequencyPage_ = new FrequencyPage(notebook1_);
   inputPage_ = new InputPage(notebook1_);
+  using pagegraphs::OutputPage;
+  graphPages_ = {
+      new TGraphPage(OutputPage::FtFmax, {"Image1", "EditComment1", "LabelLegende1", "fT - crosses "}, notebook1_),
+      new TGraphPage(OutputPage::KMag, {"Image2", "EditComment2", "LabelLegende2", "k - crosses "}, notebook1_),
+      new TGraphPage(OutputPage::StabilityLimit, {"Image3", "EditComment4", nullptr, nullptr}, notebook1_)};
   const std::pair<QWidget*, QString> pages[] = {
       {frequencyPage_, tr("S-Parameter vs Frequency")},
       {inputPage_, tr("Input: Extracted F.O.M. vs Parameter")},
-      {MakeGraphPage(notebook1_, "Image1", "EditComment1"), tr("fT, fmax Output")},
-      {MakeGraphPage(notebook1_, "Image2", "EditComment2"), tr("k, MSG, MAG Output")},
-      {MakeGraphPage(notebook1_, "Image3", "EditComment4"), tr("Stability Limit")},
+      {graphPages_[0], tr("fT, fmax Output")},
+      {graphPages_[1], tr("k, MSG, MAG Output")},
+      {graphPages_[2], tr("Stability Limit")},
       {MakeTablePage(notebook1_), tr("Tabular Output")},
   };
   for (const auto& [page, caption] : pages) {
     page->setWindowTitle(caption);
     notebook1_->addWidget(page);
   }
-  connect(frequencyPage_, &FrequencyPage::DiagramRequested, this, &TSDIAppForm::ShowDiagram);
+  stringAlignGridTab_ = notebook1_->findChild<controls::TStringAlignGrid*>("StringAlignGridTab");
+  editComment3_ = notebook1_->findChild<QLineEdit*>("EditComment3");
+  ConnectPages();
   auto* layout = new QVBoxLayout(central);
   layout->setContentsMargins(2, 2, 2, 2);
   layout->setSpacing(0);
@@ -95,6 +105,24 @@ QWidget* TSDIAppForm::BuildNotebook() {
   layout->addWidget(notebook1_, 1);
   layout->addWidget(BuildBottomButtons());
   return central;
+}
+
+void TSDIAppForm::ConnectPages() {
+  connect(frequencyPage_, &FrequencyPage::DiagramRequested, this, &TSDIAppForm::ShowDiagram);
+  connect(inputPage_, &InputPage::FileRowSelected, this, &TSDIAppForm::StringGridFilesSelectCell);
+  connect(inputPage_, &InputPage::DeleteListClicked, this, &TSDIAppForm::SpeedButtonDeleteListClick);
+  connect(inputPage_, &InputPage::DeleteLastClicked, this, &TSDIAppForm::SpeedButtonDeletaLastFileClick);
+  connect(inputPage_, &InputPage::CalculateClicked, this, &TSDIAppForm::CalculateSeries);
+  connect(inputPage_, &InputPage::ExportClicked, this, &TSDIAppForm::ExportData);
+  for (TGraphPage* page : graphPages_) {
+    connect(&page->Image(), &TGraphImage::ReadOut, this, [this](const QString& text) {
+      if (text.isEmpty()) {
+        statusBar()->clearMessage();
+      } else {
+        statusBar()->showMessage(text);
+      }
+    });
+  }
 }
 
 void TSDIAppForm::FormCreate(const QStringList& arguments) {
@@ -160,6 +188,7 @@ void TSDIAppForm::TabSet1Click(int index) {
   }
   pageNumber_ = page;
   notebook1_->setCurrentIndex(index);
+  EnterOutputPage(page);
 }
 
 void TSDIAppForm::ShowDiagram(DiagramWindow window, DisplayMode mode) {
@@ -194,15 +223,8 @@ void TSDIAppForm::SetPrinterHint() {
   drucken1_->setStatusTip(tr("Print window with ") + QPrinterInfo::defaultPrinterName());
 }
 
-void TSDIAppForm::Drucken1Click() {
-  QPrinter printer;
-  QPrintDialog dialog(&printer, this);
-  if (dialog.exec() != QDialog::Accepted) return;
-  const QPixmap picture = grab();
-  QPainter painter(&printer);
-  const QRect page = painter.viewport();
-  const QSize fitted = picture.size().scaled(page.size(), Qt::KeepAspectRatio);
-  painter.drawPixmap(QRect(page.topLeft(), fitted), picture);
+TGraphPage& TSDIAppForm::GraphPage(pagegraphs::OutputPage page) const {
+  return *graphPages_[static_cast<std::size_t>(page)];
 }
 
 }  // namespace mainwin

@@ -2,22 +2,36 @@
 
 #include <QMainWindow>
 #include <QStringList>
+#include <array>
+#include <functional>
+#include <memory>
+#include <vector>
 
 #include "display_mode.h"
+#include "mainwin/engine/series_arrays.h"
 #include "mainwin/engine/series_list.h"
+#include "mainwin/pagegraphs/page_scene.h"
 
 class QAction;
 class QFileDialog;
+class QLineEdit;
 class QMenu;
+class QPainter;
+class QPrinter;
 class QStackedWidget;
 class QTabBar;
 class QToolBar;
+
+namespace controls {
+class TStringAlignGrid;
+}
 
 namespace mainwin {
 
 class FormSet;
 class FrequencyPage;
 class InputPage;
+class TGraphPage;
 class THistoryList;
 
 // The main window: a notebook of six pages under a menu and a tool bar. It owns the files of the
@@ -29,10 +43,12 @@ class TSDIAppForm : public QMainWindow {
  public:
   // arguments: the command line without the program name; up to four files are loaded.
   TSDIAppForm(FormSet& forms, const QStringList& arguments);
+  ~TSDIAppForm() override;
 
   // The load command after the file dialog: loads an existing file as the next frequency-page file.
   void LoadFrequencyFile(const QString& fileName);
-  // A drop from the file manager, dispatched on the page shown.
+  // A drop from the file manager, dispatched on the page shown: the first page loads the first
+  // file, every other page extends the bias series.
   void FilesDropped(const QStringList& paths);
   // Called once every window exists.
   void SetPrinterHint();
@@ -42,7 +58,10 @@ class TSDIAppForm : public QMainWindow {
   DisplayMode CurrentDisplayMode() const { return displayMode_; }
   bool ConnectForWindows() const { return connectForWindows_; }
   SeriesList& Series() { return series_; }
+  // The results of the last completed evaluation, one per file of the series.
+  const SeriesArrays& Results() const { return results_; }
   THistoryList& HistoryList() { return *historyList1_; }
+  TGraphPage& GraphPage(pagegraphs::OutputPage page) const;
 
  signals:
   void FormClosed();
@@ -59,6 +78,7 @@ class TSDIAppForm : public QMainWindow {
   QMenu* BuildHelpMenu();
   void BuildToolBar();
   QWidget* BuildNotebook();
+  void ConnectPages();
   QWidget* BuildBottomButtons();
   QAction* AddAction(QMenu* menu, const char* name, const QString& caption, const QString& hint);
 
@@ -73,6 +93,38 @@ class TSDIAppForm : public QMainWindow {
   void HistoryList1Click(const QString& fileName);
   bool RefuseWhenStoreFull();
   void AppendSeriesFiles(const QStringList& paths);
+  void ShowAppendedRows(std::size_t firstIndex);
+  void SpeedButtonDeleteListClick();
+  void SpeedButtonDeletaLastFileClick();
+  void StringGridFilesSelectCell(int row);
+  bool CalculateSeries();
+  void ExportData();
+  SeriesArrays ShownResults() const;
+  SeriesSettings OutputSettings() const;
+
+  QMenu* BuildGraphicMenu();
+  void AddOutputItems(QMenu* menu);
+  void EnterOutputPage(int page);
+  void RedrawGraphPage(pagegraphs::OutputPage page);
+  void FillResultTable();
+  void TakeCommentToOutputs(QLineEdit& edit) const;
+  void ToggleGraphicItem(QAction* item, QAction* partner, int redrawOnPage, pagegraphs::OutputPage page);
+  void ShowAll1Click();
+  void ShowfTandMAG1Click();
+
+  using Sheet = std::function<void(QPainter& painter, const QRect& area)>;
+  QPrinter& Printer();
+  TGraphPage* ShownGraphPage();
+  bool RefuseWithoutTwoFiles();
+  void PrintSheets(const std::vector<Sheet>& sheets);
+  Sheet GraphSheet(pagegraphs::OutputPage page);
+  Sheet TableSheet();
+  void PrintAllWindows1Click();
+  void Print1stTwo1Click();
+  void PrintTable1Click();
+  void PrinterSetup1Click();
+  void CopyImage1Click();
+  void SaveGraphPicture(bool jpeg);
   void ShowDiagram(DiagramWindow window, DisplayMode mode);
   void Help1Click();
   void VortoHelp1Click();
@@ -83,6 +135,7 @@ class TSDIAppForm : public QMainWindow {
 
   FormSet& forms_;
   SeriesList series_;
+  SeriesArrays results_;
   int pageNumber_ = 1;
   DisplayMode displayMode_ = DisplayMode::InputReflection;
   bool connectForWindows_ = true;
@@ -91,6 +144,14 @@ class TSDIAppForm : public QMainWindow {
   QStackedWidget* notebook1_ = nullptr;
   FrequencyPage* frequencyPage_ = nullptr;
   InputPage* inputPage_ = nullptr;
+  std::array<TGraphPage*, 3> graphPages_{};
+  controls::TStringAlignGrid* stringAlignGridTab_ = nullptr;
+  QLineEdit* editComment3_ = nullptr;
+  QAction* fTonly1_ = nullptr;
+  QAction* fmaxonly1_ = nullptr;
+  QAction* mAGMSGonly1_ = nullptr;
+  QAction* konly1_ = nullptr;
+  std::unique_ptr<QPrinter> printer_;
   QMenu* fileMenu_ = nullptr;
   QAction* drucken1_ = nullptr;
   THistoryList* historyList1_ = nullptr;

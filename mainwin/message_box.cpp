@@ -12,6 +12,11 @@ MessageHandler& CurrentHandler() {
   return handler;
 }
 
+QuestionHandler& CurrentQuestionHandler() {
+  static QuestionHandler handler;
+  return handler;
+}
+
 }  // namespace
 
 void ShowMessage(QWidget* parent, const QString& text) {
@@ -22,9 +27,20 @@ void ShowMessage(QWidget* parent, const QString& text) {
   QMessageBox::information(parent, QApplication::applicationDisplayName(), text);
 }
 
+bool AskQuestion(QWidget* parent, const QString& text) {
+  if (CurrentQuestionHandler()) return CurrentQuestionHandler()(text);
+  return QMessageBox::question(parent, QApplication::applicationDisplayName(), text,
+                               QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
 MessageInterception::MessageInterception(MessageHandler handler)
     : previous_(std::exchange(CurrentHandler(), std::move(handler))) {}
 
 MessageInterception::~MessageInterception() { CurrentHandler() = std::move(previous_); }
+
+QuestionInterception::QuestionInterception(QuestionHandler handler)
+    : previous_(std::exchange(CurrentQuestionHandler(), std::move(handler))) {}
+
+QuestionInterception::~QuestionInterception() { CurrentQuestionHandler() = std::move(previous_); }
 
 }  // namespace mainwin

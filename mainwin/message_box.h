@@ -10,9 +10,13 @@ class QWidget;
 namespace mainwin {
 
 using MessageHandler = std::function<void(const QString& text)>;
+using QuestionHandler = std::function<bool(const QString& text)>;
 
 // A modal box with the text and an OK button.
 void ShowMessage(QWidget* parent, const QString& text);
+
+// A modal box with the text and the buttons Yes and No; true for Yes.
+bool AskQuestion(QWidget* parent, const QString& text);
 
 // Replaces the modal boxes by handler until the returned guard is destroyed.
 class MessageInterception {
@@ -24,6 +28,18 @@ class MessageInterception {
 
  private:
   MessageHandler previous_;
+};
+
+// Replaces the Yes/No boxes by handler, whose result is the answer, until destroyed.
+class QuestionInterception {
+ public:
+  explicit QuestionInterception(QuestionHandler handler);
+  ~QuestionInterception();
+  QuestionInterception(const QuestionInterception&) = delete;
+  QuestionInterception& operator=(const QuestionInterception&) = delete;
+
+ private:
+  QuestionHandler previous_;
 };
 
 }  // namespace mainwin

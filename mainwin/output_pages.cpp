@@ -1,16 +1,25 @@
 #include "output_pages.h"
 
-#include <QLabel>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QVBoxLayout>
+#include <cassert>
 
 #include "controls/string_align_grid.h"
+#include "mainwin/engine/table_cells.h"
 
 namespace mainwin {
 namespace {
 
 constexpr int kTableColumns = 8;
 constexpr int kTableRows = 42;  // the header and up to 41 result rows
+
+}  // namespace
+
+QFont CompactFont(QFont font) {
+  font.setPixelSize(11);
+  return font;
+}
 
 QLineEdit* MakeCommentEdit(QWidget* parent, const char* name, const QString& text) {
   auto* edit = new QLineEdit(text, parent);
@@ -20,33 +29,37 @@ QLineEdit* MakeCommentEdit(QWidget* parent, const char* name, const QString& tex
   return edit;
 }
 
-}  // namespace
-
-QWidget* MakeGraphPage(QWidget* parent, const char* imageName, const char* commentName) {
-  auto* page = new QWidget(parent);
-  auto* layout = new QVBoxLayout(page);
-  auto* image = new QLabel(page);
-  image->setObjectName(imageName);
-  image->setAutoFillBackground(true);
-  image->setStyleSheet(QStringLiteral("background: white"));
-  image->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  layout->addWidget(MakeCommentEdit(page, commentName, QObject::tr("Graphic")));
-  layout->addWidget(image, 1);
-  return page;
-}
-
 QWidget* MakeTablePage(QWidget* parent) {
   auto* page = new QWidget(parent);
   auto* layout = new QVBoxLayout(page);
   auto* grid = new controls::TStringAlignGrid(kTableColumns, kTableRows, page);
   grid->setObjectName("StringAlignGridTab");
   for (int column = 0; column < kTableColumns; ++column) grid->SetColumnAlignment(column, Qt::AlignCenter);
+  grid->setFont(CompactFont(grid->font()));
   grid->SetDefaultColumnWidth(66);
+  // The value columns as wide as their texts, the file names in the rest of the width.
+  grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   grid->SetDefaultRowHeight(18);
   grid->SetFixedRows(1);
   layout->addWidget(MakeCommentEdit(page, "EditComment3", QObject::tr("Output")));
   layout->addWidget(grid, 1);
   return page;
+}
+
+void ShowResultTable(controls::TStringAlignGrid& grid, const SeriesList& list, const SeriesArrays& results,
+                     const SeriesSettings& settings) {
+  assert(results.size() == list.SeriesCount());
+  const int count = static_cast<int>(results.size());
+  for (int row = 1; row <= count; ++row) {
+    const auto i = static_cast<std::size_t>(row - 1);
+    const std::vector<std::string> cells = TableRowTexts(list.Path(i), results[i], settings);
+    for (int column = 0; column < kTableColumns; ++column) {
+      const bool filled = static_cast<std::size_t>(column) < cells.size();
+      grid.SetCells(column, row, filled ? QString::fromStdString(cells[static_cast<std::size_t>(column)]) : QString());
+    }
+  }
+  for (int row = count + 1; row < kTableRows; ++row) grid.ClearRow(row);
 }
 
 }  // namespace mainwin

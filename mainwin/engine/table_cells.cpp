@@ -6,9 +6,14 @@
 namespace mainwin {
 namespace {
 
-constexpr std::size_t kLongestWholePath = 30;
-constexpr std::size_t kHeadCharacters = 7;
-constexpr std::size_t kTailCharacters = 15;
+struct PathAbbreviation {
+  std::size_t longestWhole;
+  std::size_t head;
+  std::size_t tail;
+};
+
+constexpr PathAbbreviation kTablePath = {30, 7, 15};
+constexpr PathAbbreviation kFileListPath = {34, 17, 19};
 
 bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }
 
@@ -21,15 +26,19 @@ std::vector<std::size_t> CharacterStarts(const std::string& text) {
   return starts;
 }
 
+std::string Abbreviated(const std::string& path, const PathAbbreviation& rule) {
+  const std::vector<std::size_t> starts = CharacterStarts(path);
+  if (starts.size() <= rule.longestWhole) return path;
+  return path.substr(0, starts[rule.head]) + "..." + path.substr(starts[starts.size() - rule.tail]);
+}
+
 std::string Prefixed(double value) { return numerics::FormatPrefixedField(7, 2, value); }
 
 }  // namespace
 
-std::string TablePathText(const std::string& path) {
-  const std::vector<std::size_t> starts = CharacterStarts(path);
-  if (starts.size() <= kLongestWholePath) return path;
-  return path.substr(0, starts[kHeadCharacters]) + "..." + path.substr(starts[starts.size() - kTailCharacters]);
-}
+std::string TablePathText(const std::string& path) { return Abbreviated(path, kTablePath); }
+
+std::string FileListPathText(const std::string& path) { return Abbreviated(path, kFileListPath); }
 
 std::vector<std::string> TableRowTexts(const std::string& path, const FileFigures& file,
                                        const SeriesSettings& settings) {

@@ -7,8 +7,9 @@
 #include "series_arrays.h"
 #include "series_settings.h"
 
-// Cell texts of the result table of a series evaluation. The table and the ".spa" export
-// differ in precision on purpose: the table shows MAG with 2 decimals and k with 3.
+// Cell texts of the result table of a series evaluation and of the page's file list. The table
+// and the ".spa" export differ in precision on purpose: the table shows MAG with 2 decimals and
+// k with 3.
 namespace mainwin {
 
 inline constexpr std::size_t kTableColumnCount = 8;
@@ -18,6 +19,10 @@ inline constexpr std::array<const char*, kTableColumnCount> kTableHeader = {
 // Column 0: the path when it is shorter than 31 characters, else its first 7 characters,
 // "..." and its last 15. Characters are counted in UTF-8.
 std::string TablePathText(const std::string& path);
+
+// A row of the file list: the path when it is shorter than 35 characters, else its first 17
+// characters, "..." and its last 19. Characters are counted in UTF-8.
+std::string FileListPathText(const std::string& path);
 
 // Columns 0 to 6 of one file's row, and column 7 (the current density) when asked for.
 std::vector<std::string> TableRowTexts(const std::string& path, const FileFigures& file,

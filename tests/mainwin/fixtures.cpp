@@ -1,6 +1,8 @@
 #include "fixtures.h"
 
 #include <QFile>
+#include <QPrinter>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTextStream>
 
@@ -29,6 +31,17 @@ QString WriteBrokenFile(const QTemporaryDir& dir, const QString& name) {
   return path;
 }
 
+QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment, bool stable) {
+  const QString path = dir.filePath(name);
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write fixture %s", qPrintable(path));
+  QTextStream out(&file);
+  out << "! Bias point " << name << "\n" << comment << "\n# MHz S MA R 50\n";
+  const char* parameters = stable ? " 0.3 -30 2 150 0.01 60 0.3 -20\n" : " 0.9 -30 5 150 0.1 60 0.9 -20\n";
+  for (int f = 500; f <= 4000; f += 500) out << f << parameters;
+  return path;
+}
+
 void WriteSettingsFile(const QString& text) {
   QFile file(mainwin::SettingsFilePath());
   if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write the settings file");
@@ -48,5 +61,30 @@ void ResetProgramState() {
 }
 
 MessageLog::MessageLog() : interception_([this](const QString& text) { messages_.append(text); }) {}
+
+QuestionLog::QuestionLog(bool answer)
+    : interception_([this, answer](const QString& text) {
+        questions_.append(text);
+        return answer;
+      }) {}
+
+DialogAnswers::DialogAnswers(const QString& savePath, const QString& pdfPath)
+    : interception_(
+          [this, savePath](const mainwin::SaveDialogSetup& setup) {
+            saveTitles_.append(setup.title);
+            return savePath;
+          },
+          [this, pdfPath](mainwin::PrinterDialog dialog, QPrinter& printer) {
+            if (dialog == mainwin::PrinterDialog::Print) ++printDialogs_;
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(pdfPath);
+            return !pdfPath.isEmpty();
+          }) {}
+
+int PdfPageCount(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return -1;
+  return static_cast<int>(QString::fromLatin1(file.readAll()).count(QRegularExpression("/Type\\s*/Page\\b")));
+}
 
 }  // namespace mainwin_test

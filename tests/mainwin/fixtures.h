@@ -3,7 +3,9 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <vector>
 
+#include "mainwin/dialog_hooks.h"
 #include "mainwin/message_box.h"
 
 // Small data files made for the tests, and the messages the window would have shown.
@@ -13,6 +15,10 @@ namespace mainwin_test {
 QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points);
 // A file whose second data line holds a letter where a number must be.
 QString WriteBrokenFile(const QTemporaryDir& dir, const QString& name);
+// A bias-series file: a comment line such as "! Ic=2m" (empty for none), "# MHz S MA R 50" and
+// points from 500 MHz to 4 GHz. A stable device has k far above 1 at every point (its limit is
+// 500 MHz), an unstable one k near 0.43.
+QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment, bool stable = true);
 // Writes netrix.ini in the test's configuration folder.
 void WriteSettingsFile(const QString& text);
 QString ReadSettingsFile();
@@ -29,5 +35,33 @@ class MessageLog {
   QStringList messages_;
   mainwin::MessageInterception interception_;
 };
+
+// Answers every Yes/No question with the same answer and keeps the questions.
+class QuestionLog {
+ public:
+  explicit QuestionLog(bool answer);
+  const QStringList& Questions() const { return questions_; }
+
+ private:
+  QStringList questions_;
+  mainwin::QuestionInterception interception_;
+};
+
+// Answers the save dialogs with one path (empty: cancelled) and the print dialogs by printing to
+// a PDF file; keeps the titles of the save dialogs it was shown.
+class DialogAnswers {
+ public:
+  DialogAnswers(const QString& savePath, const QString& pdfPath);
+  const QStringList& SaveTitles() const { return saveTitles_; }
+  int PrintDialogs() const { return printDialogs_; }
+
+ private:
+  QStringList saveTitles_;
+  int printDialogs_ = 0;
+  mainwin::DialogInterception interception_;
+};
+
+// The number of pages of a PDF file that QPrinter wrote; -1 when the file is missing.
+int PdfPageCount(const QString& path);
 
 }  // namespace mainwin_test

@@ -7,6 +7,8 @@ int RunSettingsFileTests(int argc, char** argv);
 int RunHistoryListTests(int argc, char** argv);
 int RunMainWindowTests(int argc, char** argv);
 int RunFrequencyPageTests(int argc, char** argv);
+int RunSeriesPageTests(int argc, char** argv);
+int RunOutputPagesTests(int argc, char** argv);
 
 int main(int argc, char** argv) {
   // netrix.ini and the per-user settings go to a folder of the test's own, set before Qt reads it.
@@ -20,5 +22,7 @@ int main(int argc, char** argv) {
   failures += RunHistoryListTests(argc, argv);
   failures += RunMainWindowTests(argc, argv);
   failures += RunFrequencyPageTests(argc, argv);
+  failures += RunSeriesPageTests(argc, argv);
+  failures += RunOutputPagesTests(argc, argv);
   return failures == 0 ? 0 : 1;
 }

@@ -32,6 +32,20 @@ INSTANTIATE_TEST_SUITE_P(
                     PathCase{"Utf8ThirtyCharacters", "/home/jürgen/Lötstelle_5mA.s2p", "/home/jürgen/Lötstelle_5mA.s2p"}),
     [](const testing::TestParamInfo<PathCase>& info) { return std::string(info.param.name); });
 
+class FileListPathTest : public testing::TestWithParam<PathCase> {};
+
+TEST_P(FileListPathTest, ShortensLongPaths) { EXPECT_EQ(FileListPathText(GetParam().path), GetParam().text); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Paths, FileListPathTest,
+    testing::Values(
+        PathCase{"Short", "/m/a.s2p", "/m/a.s2p"},
+        PathCase{"ThirtyFourCharacters", "/home/engineer/series/bjt_0.5m.s2p", "/home/engineer/series/bjt_0.5m.s2p"},
+        PathCase{"ThirtyFiveCharacters", "/home/engineer/series/bjt_0.5mA.s2p", "/home/engineer/se...eries/bjt_0.5mA.s2p"},
+        PathCase{"Long", "/home/engineer/measurements/lot7/bjt_12_40mA.s2p", "/home/engineer/me...ot7/bjt_12_40mA.s2p"},
+        PathCase{"Utf8", "/home/jürgen/Messreihe/Lötstelle_Ü_40mA.s2p", "/home/jürgen/Mess...ötstelle_Ü_40mA.s2p"}),
+    [](const testing::TestParamInfo<PathCase>& info) { return std::string(info.param.name); });
+
 TEST(TableCells, WritesEachColumnInItsFormat) {
   const FileFigures file{1.5e-3, 12.3456e9, 25e9, 15.4321, 0.8, 0.56789, 0};
   SeriesSettings settings = DefaultSeriesSettings();

@@ -1,0 +1,98 @@
+#include "series_render.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <iterator>
+#include <ostream>
+
+#include "diagram/canvas.h"
+#include "mainwin/engine/series_evaluation.h"
+#include "mainwin/pagegraphs/page_graphs.h"
+#include "render_options.h"
+#include "render_output.h"
+#include "series_command.h"
+#include "series_options.h"
+
+namespace app {
+namespace {
+
+using mainwin::pagegraphs::OutputPage;
+
+constexpr SeriesView kSeriesViews[] = {
+    {"ft-fmax", OutputPage::FtFmax},
+    {"k-mag", OutputPage::KMag},
+    {"stability-limit", OutputPage::StabilityLimit},
+};
+
+struct SeriesRenderOptions {
+  SeriesOptions series;
+  int width = 768;
+  int height = 576;
+  bool connect = false;
+};
+
+// Takes --size and --connect; everything else is the series command's.
+std::string ParseSeriesRenderOptions(const std::vector<std::string>& args, SeriesRenderOptions& o) {
+  std::vector<std::string> rest;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (args[i] == "--connect") {
+      o.connect = true;
+    } else if (args[i] == "--size") {
+      if (i + 1 == args.size()) return "--size needs a value";
+      if (std::string error = ParseSize(args[++i], o.width, o.height); !error.empty()) return error;
+    } else {
+      rest.push_back(args[i]);
+    }
+  }
+  std::string error;
+  if (!ParseSeriesOptions(rest, o.series, error)) return error;
+  if (!o.series.outPath) return "--out PATH is missing, for example --out ft-fmax.png";
+  if (o.series.files.empty()) return "name the files of the bias series to draw, up to 40";
+  return {};
+}
+
+int Fail(std::ostream& err, const std::string& message) {
+  err << "netrix --render: " << message << '\n';
+  return 1;
+}
+
+}  // namespace
+
+const SeriesView* FindSeriesView(std::string_view name) {
+  const auto found = std::find_if(std::begin(kSeriesViews), std::end(kSeriesViews),
+                                  [&](const SeriesView& v) { return name == v.name; });
+  return found == std::end(kSeriesViews) ? nullptr : found;
+}
+
+std::string SeriesViewNames() {
+  std::string names;
+  for (std::size_t i = 0; i < std::size(kSeriesViews); ++i) {
+    names += i == 0 ? "" : (i + 1 == std::size(kSeriesViews) ? " or " : ", ");
+    names += kSeriesViews[i].name;
+  }
+  return names;
+}
+
+int RunSeriesRender(const SeriesView& view, const std::vector<std::string>& args, std::ostream& err) {
+  SeriesRenderOptions o;
+  if (const std::string error = ParseSeriesRenderOptions(args, o); !error.empty()) return Fail(err, error);
+  const std::string& outPath = *o.series.outPath;
+  const PictureFormat* format = FindPictureFormat(outPath);
+  if (format == nullptr) {
+    return Fail(err, "cannot tell the picture format of \"" + outPath + "\"; end the name in " + PictureExtensions());
+  }
+  const mainwin::SeriesList list = MakeSeries(o.series.files, err);
+  mainwin::pagegraphs::PageScene scene{{}, o.series.settings, o.connect, {}};
+  const mainwin::SeriesEvaluation evaluation = mainwin::EvaluateSeries(list, scene.settings, scene.results);
+  for (const std::string& message : evaluation.messages) err << message << '\n';
+  if (!evaluation.completed) return 1;
+  const GuiSession session;
+  const imageexport::ExportResult written = format->write(outPath, o.width, o.height, [&](QPainter& painter) {
+    diagram::Canvas canvas(painter, o.width, o.height);
+    mainwin::pagegraphs::RoutineOf(view.page)(scene, canvas);
+  });
+  if (!written.Ok()) return Fail(err, written.error);
+  return 0;
+}
+
+}  // namespace app

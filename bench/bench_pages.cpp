@@ -1,0 +1,112 @@
+// Speed of the output pages: redrawing each graph page at 1024 x 768 from a series of 40 files,
+// and a drop of 40 files onto the series page with "Auto Calculate" on, timed until the drop
+// handler returns and the window answers again.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QImage>
+#include <QPainter>
+#include <QStringList>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "diagram/canvas.h"
+#include "mainwin/form_set.h"
+#include "mainwin/main_window.h"
+#include "mainwin/message_box.h"
+#include "mainwin/pagegraphs/page_graphs.h"
+
+namespace {
+
+using mainwin::pagegraphs::OutputPage;
+
+constexpr int kFiles = 40;
+
+// A series whose figures rise and fall with the current the way a transistor's do.
+mainwin::pagegraphs::PageScene FortyResults() {
+  mainwin::pagegraphs::PageScene scene;
+  scene.settings = mainwin::DefaultSeriesSettings();
+  scene.connect = true;
+  for (int i = 1; i <= kFiles; ++i) {
+    const double x = i / 10.0;
+    scene.results.push_back({i * 1e-3, 20e9 * x / (1 + x * x / 4), 35e9 * x / (1 + x * x / 5), 10 + 2 * x, 0,
+                             0.2 + 0.1 * i, i < 30 ? 8e9 / i : 0});
+  }
+  return scene;
+}
+
+// As the page's image does it: a fresh picture of the image's size, drawn by the page's routine.
+void BM_RedrawOutputPage1024x768(benchmark::State& state) {
+  const auto page = static_cast<OutputPage>(state.range(0));
+  const mainwin::pagegraphs::PageScene scene = FortyResults();
+  for (auto _ : state) {
+    QImage picture(1024, 768, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    diagram::Canvas canvas(painter, picture.width(), picture.height());
+    mainwin::pagegraphs::RoutineOf(page)(scene, canvas);
+    benchmark::DoNotOptimize(picture.constBits());
+  }
+}
+BENCHMARK(BM_RedrawOutputPage1024x768)->Arg(0)->Arg(1)->Arg(2)->ArgName("page")->Unit(benchmark::kMillisecond);
+
+// 40 files of 253 points with "! Ic=" lines, written once.
+QStringList FortyFiles() {
+  static const QStringList files = [] {
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "netrix_bench_pages";
+    std::filesystem::create_directories(folder);
+    QStringList paths;
+    for (int file = 1; file <= kFiles; ++file) {
+      const std::filesystem::path path = folder / ("point_" + std::to_string(file) + ".s2p");
+      std::ofstream out(path, std::ios::binary);
+      out << "! Ic=" << file << "m\n# MHz S MA R 50\n";
+      for (int i = 0; i < 253; ++i) {
+        char line[200];
+        std::snprintf(line, sizeof line, "%d %.6f %.4f %.6f %.4f %.6f %.4f %.6f %.4f\n", 100 + i * 50,
+                      0.8 - i * 1e-3, -30.0 - i * 0.7, 5.0 + file * 0.1 - i * 0.01, 150.0 - i * 0.5,
+                      0.02 + i * 1e-4, 70.0 - i * 0.2, 0.6 - i * 1e-3, -20.0 - i * 0.3);
+        out << line;
+      }
+      paths.append(QString::fromStdString(path.string()));
+    }
+    return paths;
+  }();
+  return files;
+}
+
+void BM_DropFortyFilesWithAutoCalculate(benchmark::State& state) {
+  QTemporaryDir configuration;
+  qputenv("XDG_CONFIG_HOME", configuration.path().toUtf8());
+  mainwin::MessageInterception silent([&state](const QString& text) { state.SkipWithError(qPrintable(text)); });
+  mainwin::FormSet forms({});
+  mainwin::TSDIAppForm& window = *forms.SDIAppForm();
+  window.findChild<QTabBar*>("TabSet1")->setCurrentIndex(1);
+  window.findChild<QCheckBox*>("CheckBoxAutoCalculate")->setChecked(true);
+  const QStringList files = FortyFiles();
+  for (auto _ : state) {
+    state.PauseTiming();
+    window.Series().DeleteAll();
+    state.ResumeTiming();
+    window.FilesDropped(files);
+    QApplication::processEvents();
+  }
+  if (window.Results().size() != kFiles) state.SkipWithError("the series was not evaluated");
+}
+BENCHMARK(BM_DropFortyFilesWithAutoCalculate)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (!std::getenv("DISPLAY")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  QApplication application(argc, argv);
+  mainwin::InitialiseApplication();
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}

@@ -1,0 +1,74 @@
+#include "graph_image.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <cassert>
+
+#include "diagram/scaling.h"
+#include "numerics/prefixed_number.h"
+#include "numerics/text_functions.h"
+
+namespace mainwin {
+namespace {
+
+// Smaller pictures leave no room for a diagram frame.
+constexpr int kSmallestSide = 64;
+
+QString ValueText(double value) {
+  return QString::fromStdString(numerics::TrimLeftText(numerics::FormatPrefixed(2, value)));
+}
+
+}  // namespace
+
+TGraphImage::TGraphImage(pagegraphs::OutputPage page, QWidget* parent) : QWidget(parent), page_(page) {
+  setMouseTracking(true);
+  setCursor(Qt::CrossCursor);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void TGraphImage::Draw(const pagegraphs::PageScene& scene) {
+  scene_ = scene;
+  drawn_ = true;
+  Render();
+}
+
+void TGraphImage::Paint(QPainter& painter, const QRect& rect) const {
+  assert(drawn_ && "an output page is drawn before its picture is used");
+  painter.save();
+  painter.translate(rect.topLeft());
+  painter.setClipRect(QRect(QPoint(0, 0), rect.size()));
+  diagram::Canvas canvas(painter, rect.width(), rect.height());
+  pagegraphs::RoutineOf(page_)(scene_, canvas);
+  painter.restore();
+}
+
+void TGraphImage::Render() {
+  if (!drawn_ || width() < kSmallestSide || height() < kSmallestSide) return;
+  picture_ = QImage(size(), QImage::Format_RGB32);
+  QPainter painter(&picture_);
+  Paint(painter, picture_.rect());
+  scale_ = diagram::CurrentDiagram();
+  update();
+}
+
+void TGraphImage::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Qt::white);
+  if (!picture_.isNull()) painter.drawImage(0, 0, picture_);
+}
+
+void TGraphImage::resizeEvent(QResizeEvent*) { Render(); }
+
+void TGraphImage::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  if (picture_.isNull() || !diagram::IsInsideFrame(scale_, at.x(), at.y())) {
+    emit ReadOut(QString());
+    return;
+  }
+  emit ReadOut("x: " + ValueText(diagram::PixelToX(scale_, at.x())) +
+               ", y: " + ValueText(diagram::PixelToY(scale_, at.y())));
+}
+
+void TGraphImage::leaveEvent(QEvent*) { emit ReadOut(QString()); }
+
+}  // namespace mainwin

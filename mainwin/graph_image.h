@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+#include "diagram/diagram_state.h"
+#include "mainwin/pagegraphs/page_graphs.h"
+
+// The picture of an output page (Image1, Image2, Image3): it keeps the scene it was last asked
+// to draw and redraws that scene at its own size, so a resize keeps the picture sharp while the
+// content changes only when the page draws again. Under the mouse it reads the values out.
+namespace mainwin {
+
+class TGraphImage : public QWidget {
+  Q_OBJECT
+
+ public:
+  TGraphImage(pagegraphs::OutputPage page, QWidget* parent = nullptr);
+
+  pagegraphs::OutputPage Page() const { return page_; }
+  void Draw(const pagegraphs::PageScene& scene);
+  bool IsDrawn() const { return drawn_; }
+  const pagegraphs::PageScene& Scene() const { return scene_; }
+  // The picture as shown; null before the first drawing.
+  const QImage& Picture() const { return picture_; }
+  // The last scene drawn again into rect, on any device (a printer page, a larger picture).
+  void Paint(QPainter& painter, const QRect& rect) const;
+
+ signals:
+  // "x: ..., y: ..." for the point under the mouse inside the frame; empty outside it.
+  void ReadOut(const QString& text);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  void Render();
+
+  pagegraphs::OutputPage page_;
+  pagegraphs::PageScene scene_;
+  bool drawn_ = false;
+  QImage picture_;
+  diagram::Diagram scale_;  // the diagram state the picture was drawn with
+};
+
+}  // namespace mainwin

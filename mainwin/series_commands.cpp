@@ -1,0 +1,124 @@
+// The bias series on page 2: dropped files, the list buttons, reordering by selection, the
+// evaluation and the ASCII export.
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QSaveFile>
+
+#include "dialog_hooks.h"
+#include "input_page.h"
+#include "main_window.h"
+#include "mainwin/engine/dropped_files.h"
+#include "mainwin/engine/series_evaluation.h"
+#include "mainwin/engine/series_messages.h"
+#include "mainwin/engine/spa_export.h"
+#include "message_box.h"
+
+namespace mainwin {
+namespace {
+
+// The file holds its old content or the whole new one; an empty text means written.
+QString WriteDataFile(const QString& path, const std::string& content) {
+  QSaveFile file(path);
+  const auto size = static_cast<qint64>(content.size());
+  if (file.open(QIODevice::WriteOnly) && file.write(content.data(), size) == size && file.commit()) return {};
+  return QObject::tr("The data could not be written to ") + path + " (" + file.errorString() +
+         QObject::tr("). Choose a folder you may write to and export again!");
+}
+
+}  // namespace
+
+void TSDIAppForm::AppendSeriesFiles(const QStringList& paths) {
+  std::vector<std::string> names;
+  for (const QString& path : paths) names.push_back(QFileInfo(path).absoluteFilePath().toStdString());
+  const DroppedFiles dropped = SortOutDroppedPaths(names);
+  if (!dropped.refused.empty()) ShowMessage(this, QString::fromStdString(RefusedFilesMessage(dropped.refused)));
+  if (dropped.series.empty()) return;
+  const std::size_t first = series_.SeriesCount();
+  const AppendResult appended = series_.Append(dropped.series);
+  if (!appended.message.empty()) {
+    ShowMessage(this, QString::fromStdString(appended.message));
+    return;
+  }
+  ShowAppendedRows(first);
+  if (inputPage_->AutoCalculate()) CalculateSeries();
+}
+
+void TSDIAppForm::ShowAppendedRows(std::size_t firstIndex) {
+  for (std::size_t i = firstIndex; i < series_.SeriesCount(); ++i) {
+    inputPage_->ShowFileRow(static_cast<int>(i + 1), series_.Path(i));
+  }
+  inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
+}
+
+void TSDIAppForm::SpeedButtonDeleteListClick() {
+  const int count = static_cast<int>(series_.SeriesCount());
+  series_.DeleteAll();
+  inputPage_->ClearFileRows(1, count);
+  inputPage_->ShowSeriesCount(0);
+}
+
+void TSDIAppForm::SpeedButtonDeletaLastFileClick() {
+  const int count = static_cast<int>(series_.SeriesCount());
+  if (count == 0) return;
+  series_.DeleteLast();
+  inputPage_->ClearFileRows(count, count);
+  inputPage_->ShowSeriesCount(count - 1);
+}
+
+// Selecting a file tells its values and offers to move it up by one; the first file changes
+// places with the last. This is how the user sorts the series.
+void TSDIAppForm::StringGridFilesSelectCell(int row) {
+  const std::size_t count = series_.SeriesCount();
+  if (row < 1 || static_cast<std::size_t>(row) > count) return;
+  const auto index = static_cast<std::size_t>(row - 1);
+  const QString text = QString::fromStdString(FileValuesText(ShownResults()[index]));
+  if (count == 1) {
+    ShowMessage(this, text);
+    return;
+  }
+  if (!AskQuestion(this, text + kMoveUpQuestion)) return;
+  const std::size_t other = index == 0 ? count - 1 : index - 1;
+  series_.MoveUp(index);
+  inputPage_->ShowFileRow(row, series_.Path(index));
+  inputPage_->ShowFileRow(static_cast<int>(other + 1), series_.Path(other));
+  if (inputPage_->AutoCalculate()) CalculateSeries();
+}
+
+bool TSDIAppForm::CalculateSeries() {
+  const SeriesSettings settings = OutputSettings();
+  if (settings.density && !(settings.area > 0)) {
+    ShowMessage(this, tr("The current density needs a transistor area above 0 µm². Enter the area, then "
+                         "calculate again!"));
+    return false;
+  }
+  const SeriesEvaluation evaluation = EvaluateSeries(series_, settings, results_);
+  for (const std::string& message : evaluation.messages) ShowMessage(this, QString::fromStdString(message));
+  return evaluation.completed;
+}
+
+// Both the page button and the menu item evaluate first, so the file always matches the list
+// and the entries as they are now.
+void TSDIAppForm::ExportData() {
+  if (!CalculateSeries()) return;
+  const QString path = ChooseSaveFile(
+      this, {"SaveDialogSPA", tr("Save Calculated Data"), tr("Data Files (*.spa)"), QStringLiteral("spa"),
+             QStringLiteral("*.spa")});
+  if (path.isEmpty()) return;
+  lastExportFile_ = path;
+  TakeCommentToOutputs(*editComment3_);
+  SeriesSettings settings = OutputSettings();
+  settings.comment = editComment3_->text().toStdString();
+  const QString error = WriteDataFile(path, SpaContent(series_, results_, settings));
+  if (!error.isEmpty()) ShowMessage(this, error);
+}
+
+// Files never evaluated show zeros, as a freshly reset result would.
+SeriesArrays TSDIAppForm::ShownResults() const {
+  SeriesArrays shown = results_;
+  shown.resize(series_.SeriesCount());
+  return shown;
+}
+
+SeriesSettings TSDIAppForm::OutputSettings() const { return inputPage_->EvaluationSettings(); }
+
+}  // namespace mainwin

@@ -1,0 +1,459 @@
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPrinter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cmath>
+#include <memory>
+
+#include "controls/string_align_grid.h"
+#include "diagram/diagram_state.h"
+#include "fixtures.h"
+#include "mainwin/engine/series_evaluation.h"
+#include "mainwin/engine/spa_export.h"
+#include "mainwin/form_set.h"
+#include "mainwin/graph_image.h"
+#include "mainwin/graph_page.h"
+#include "mainwin/main_window.h"
+#include "mainwin/pagegraphs/graph_data.h"
+
+using mainwin::FormSet;
+using mainwin::TSDIAppForm;
+using mainwin::pagegraphs::OutputPage;
+
+Q_DECLARE_METATYPE(OutputPage)
+
+// Pages 3 to 6: the graphs and their titles, the "&Graphic" menu, the table, the export,
+// printing, the picture files and the mouse read-out.
+class OutputPagesTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void AxisTitlesAndXValuesFollowTheXAxisChoice_data();
+  void AxisTitlesAndXValuesFollowTheXAxisChoice();
+  void GraphicMenuKeepsOneOfEachPair_data();
+  void GraphicMenuKeepsOneOfEachPair();
+  void GraphicMenuRedrawsOnlyFromThePageBefore_data();
+  void GraphicMenuRedrawsOnlyFromThePageBefore();
+  void YTitleAndLegendFollowTheMenu_data();
+  void YTitleAndLegendFollowTheMenu();
+  void UnstableDeviceTitle_data();
+  void UnstableDeviceTitle();
+  void TableCellsAndCommentEdits_data();
+  void TableCellsAndCommentEdits();
+  void TableClearsRowsOfRemovedFiles();
+  void ExportMatchesTheEngineByteForByte_data();
+  void ExportMatchesTheEngineByteForByte();
+  void ExportWritesNothingWithoutFilesOrWhenCancelled();
+  void PrintCommandsPrintTheirSheets_data();
+  void PrintCommandsPrintTheirSheets();
+  void GraphsArePrintedAtThePrintersResolution();
+  void PrintingNeedsTwoFilesAndACompletedDialog();
+  void PictureFilesHoldTheShownGraph_data();
+  void PictureFilesHoldTheShownGraph();
+  void CopyImagePutsTheGraphOnTheClipboard();
+  void PicturesNeedAGraphPage();
+  void MouseReadsOutTheValues();
+
+ private:
+  TSDIAppForm& Window() { return *forms_->SDIAppForm(); }
+  template <typename T>
+  T* Find(const char* name) {
+    T* found = Window().findChild<T*>(name);
+    if (!found) qFatal("no control %s", name);
+    return found;
+  }
+  // Files at 2 and 4 mA on page 2, evaluated, with the area 500 square micrometres.
+  QStringList DropTwoFiles(bool stable = true);
+  void ShowTab(int tab) { Find<QTabBar>("TabSet1")->setCurrentIndex(tab); }
+  const mainwin::TGraphImage& Image(OutputPage page) { return Window().GraphPage(page).Image(); }
+  mainwin::pagegraphs::PageGraph Drawn(OutputPage page) {
+    return mainwin::pagegraphs::GraphOf(page, Image(page).Scene());
+  }
+  QString Out(const QString& name) const { return dir_.filePath(name); }
+
+  QTemporaryDir dir_;
+  std::unique_ptr<FormSet> forms_;
+};
+
+void OutputPagesTest::init() {
+  forms_.reset();
+  mainwin_test::ResetProgramState();
+  forms_ = std::make_unique<FormSet>(QStringList());
+  Window().show();
+  QVERIFY(QTest::qWaitForWindowExposed(&Window()));
+}
+
+QStringList OutputPagesTest::DropTwoFiles(bool stable) {
+  ShowTab(1);
+  Find<QLineEdit>("AreaEingabe")->setText("500");
+  const QStringList files = {mainwin_test::WriteSeriesFile(dir_, "bias_2mA.s2p", "! Ic=2m", stable),
+                             mainwin_test::WriteSeriesFile(dir_, "bias_4mA.s2p", "! Ic = 4 m", stable)};
+  Window().FilesDropped(files);
+  return files;
+}
+
+void OutputPagesTest::AxisTitlesAndXValuesFollowTheXAxisChoice_data() {
+  QTest::addColumn<QString>("choice");
+  QTest::addColumn<bool>("density");
+  QTest::addColumn<QString>("title");
+  QTest::addColumn<QList<double>>("x");
+  // j = 1000 * I / 500: 0.004 and 0.008 mA per square micrometre.
+  QTest::newRow("current") << "RadioButtonIc" << false << "I in A" << QList<double>{2e-3, 4e-3};
+  QTest::newRow("density") << "RadioButtonIc" << true << "I in mA/µm²" << QList<double>{0.004, 0.008};
+  QTest::newRow("file number") << "RadioButtonFileNo" << false << "File Number" << QList<double>{1, 2};
+  QTest::newRow("file number with density") << "RadioButtonFileNo" << true << "File Number" << QList<double>{1, 2};
+}
+
+void OutputPagesTest::AxisTitlesAndXValuesFollowTheXAxisChoice() {
+  QFETCH(QString, choice);
+  QFETCH(bool, density);
+  QFETCH(QString, title);
+  QFETCH(QList<double>, x);
+  mainwin_test::MessageLog log;  // the file number reads no current
+  Find<QRadioButton>(qPrintable(choice))->setChecked(true);
+  Find<QCheckBox>("CheckBoxDensity")->setChecked(density);
+  DropTwoFiles();
+  for (const OutputPage page : {OutputPage::FtFmax, OutputPage::KMag, OutputPage::StabilityLimit}) {
+    ShowTab(2 + static_cast<int>(page));
+    QCOMPARE(QString::fromStdString(Drawn(page).xTitle), title);
+    const std::vector<double> values = Drawn(page).x;
+    QCOMPARE(values.size(), std::size_t{2});
+    for (std::size_t i = 0; i < 2; ++i) QVERIFY(std::fabs(values[i] - x[static_cast<qsizetype>(i)]) < 1e-15);
+  }
+}
+
+void OutputPagesTest::GraphicMenuKeepsOneOfEachPair_data() {
+  QTest::addColumn<QStringList>("clicked");
+  QTest::addColumn<QStringList>("checked");
+  QTest::newRow("fT") << QStringList{"fTonly1"} << QStringList{"fTonly1"};
+  QTest::newRow("fT then fmax") << QStringList{"fTonly1", "fmaxonly1"} << QStringList{"fmaxonly1"};
+  QTest::newRow("fmax then fT") << QStringList{"fmaxonly1", "fTonly1"} << QStringList{"fTonly1"};
+  QTest::newRow("k then MAG") << QStringList{"konly1", "MAGMSGonly1"} << QStringList{"MAGMSGonly1"};
+  QTest::newRow("MAG then k") << QStringList{"MAGMSGonly1", "konly1"} << QStringList{"konly1"};
+  QTest::newRow("fT twice") << QStringList{"fTonly1", "fTonly1"} << QStringList{};
+  QTest::newRow("one of each pair") << QStringList{"fmaxonly1", "konly1"} << QStringList{"fmaxonly1", "konly1"};
+  QTest::newRow("show fT and MAG") << QStringList{"fmaxonly1", "konly1", "ShowfTandMAG1"}
+                                   << QStringList{"fTonly1", "MAGMSGonly1"};
+  QTest::newRow("show all") << QStringList{"fTonly1", "MAGMSGonly1", "ShowAll1"} << QStringList{};
+}
+
+void OutputPagesTest::GraphicMenuKeepsOneOfEachPair() {
+  QFETCH(QStringList, clicked);
+  QFETCH(QStringList, checked);
+  for (const QString& item : clicked) Find<QAction>(qPrintable(item))->trigger();
+  for (const char* item : {"fTonly1", "fmaxonly1", "MAGMSGonly1", "konly1"}) {
+    QCOMPARE(Find<QAction>(item)->isChecked(), checked.contains(item));
+  }
+}
+
+void OutputPagesTest::GraphicMenuRedrawsOnlyFromThePageBefore_data() {
+  QTest::addColumn<int>("tab");
+  QTest::addColumn<QString>("item");
+  QTest::addColumn<OutputPage>("affected");
+  QTest::addColumn<bool>("redrawn");
+  QTest::newRow("fT on page 2") << 1 << "fTonly1" << OutputPage::FtFmax << true;
+  QTest::newRow("fmax on page 2") << 1 << "fmaxonly1" << OutputPage::FtFmax << true;
+  QTest::newRow("fT on page 3") << 2 << "fTonly1" << OutputPage::FtFmax << false;
+  QTest::newRow("MAG on page 3") << 2 << "MAGMSGonly1" << OutputPage::KMag << true;
+  QTest::newRow("k on page 3") << 2 << "konly1" << OutputPage::KMag << true;
+  QTest::newRow("k on page 4") << 3 << "konly1" << OutputPage::KMag << false;
+  QTest::newRow("k on page 2") << 1 << "konly1" << OutputPage::KMag << false;
+}
+
+void OutputPagesTest::GraphicMenuRedrawsOnlyFromThePageBefore() {
+  QFETCH(int, tab);
+  QFETCH(QString, item);
+  QFETCH(OutputPage, affected);
+  QFETCH(bool, redrawn);
+  DropTwoFiles();
+  for (int page = 2; page <= 4; ++page) ShowTab(page);  // every graph drawn with nothing chosen
+  ShowTab(tab);
+  Find<QAction>(qPrintable(item))->trigger();
+  const mainwin::pagegraphs::GraphicChoice& c = Image(affected).Scene().choice;
+  QCOMPARE(c.fTOnly || c.fmaxOnly || c.magMsgOnly || c.kOnly, redrawn);
+}
+
+void OutputPagesTest::YTitleAndLegendFollowTheMenu_data() {
+  QTest::addColumn<QString>("item");
+  QTest::addColumn<OutputPage>("page");
+  QTest::addColumn<QString>("title");
+  QTest::addColumn<bool>("legend");
+  QTest::newRow("fT and fmax") << "" << OutputPage::FtFmax << "fT & fmax in Hz" << true;
+  QTest::newRow("fT only") << "fTonly1" << OutputPage::FtFmax << "fT in Hz" << false;
+  QTest::newRow("k and MAG") << "" << OutputPage::KMag << "k (x10), MAG+MSG in dB" << true;
+  QTest::newRow("MAG only") << "MAGMSGonly1" << OutputPage::KMag << "MAG/MSG in dB" << false;
+}
+
+void OutputPagesTest::YTitleAndLegendFollowTheMenu() {
+  QFETCH(QString, item);
+  QFETCH(OutputPage, page);
+  QFETCH(QString, title);
+  QFETCH(bool, legend);
+  DropTwoFiles();
+  if (!item.isEmpty()) Find<QAction>(qPrintable(item))->trigger();
+  ShowTab(2 + static_cast<int>(page));
+  QCOMPARE(QString::fromStdString(Drawn(page).yTitle), title);
+  const char* label = page == OutputPage::FtFmax ? "LabelLegende1" : "LabelLegende2";
+  QCOMPARE(Find<QLabel>(label)->isVisible(), legend);
+  QCOMPARE(Find<QLabel>(label)->text(), page == OutputPage::FtFmax ? QString("fT - crosses ") : QString("k - crosses "));
+}
+
+void OutputPagesTest::UnstableDeviceTitle_data() {
+  QTest::addColumn<bool>("stable");
+  QTest::addColumn<QString>("title");
+  QTest::addColumn<double>("limit");
+  // Stable at every point: the limit is the first frequency, 500 MHz.
+  QTest::newRow("stable") << true << "f(k>1) in Hz" << 500e6;
+  QTest::newRow("unstable") << false << "Sorry! In the whole measured region the device is unstable!" << 0.0;
+}
+
+void OutputPagesTest::UnstableDeviceTitle() {
+  QFETCH(bool, stable);
+  QFETCH(QString, title);
+  QFETCH(double, limit);
+  DropTwoFiles(stable);
+  ShowTab(4);
+  QCOMPARE(QString::fromStdString(Drawn(OutputPage::StabilityLimit).yTitle), title);
+  QCOMPARE(Drawn(OutputPage::StabilityLimit).series.front().y, (std::vector<double>{limit, limit}));
+}
+
+void OutputPagesTest::TableCellsAndCommentEdits_data() {
+  QTest::addColumn<bool>("density");
+  QTest::addColumn<bool>("comment");
+  QTest::newRow("plain") << false << false;
+  QTest::newRow("with density and comment") << true << true;
+}
+
+void OutputPagesTest::TableCellsAndCommentEdits() {
+  QFETCH(bool, density);
+  QFETCH(bool, comment);
+  Find<QCheckBox>("CheckBoxDensity")->setChecked(density);
+  Find<QCheckBox>("CheckBoxComment")->setChecked(comment);
+  Find<QPlainTextEdit>("MemoComment")->setPlainText("lot 7\nwafer 3");
+  const QStringList files = DropTwoFiles();
+  ShowTab(5);
+  auto* grid = Find<controls::TStringAlignGrid>("StringAlignGridTab");
+  QCOMPARE(grid->Cells(0, 0), QStringLiteral("File Name"));
+  for (int row = 1; row <= 2; ++row) {
+    const QString path = files[row - 1];
+    QCOMPARE(grid->Cells(0, row), path.left(7) + "..." + path.right(15));
+    QCOMPARE(grid->Cells(1, row).trimmed(), row == 1 ? QString("2.00mA") : QString("4.00mA"));
+    QCOMPARE(grid->Cells(6, row).trimmed(), QStringLiteral("500.00MHz"));
+    QCOMPARE(grid->Cells(7, row), density ? (row == 1 ? QString("  0.004") : QString("  0.008")) : QString());
+    QVERIFY(grid->Cells(4, row).endsWith("dB"));
+  }
+  QCOMPARE(Find<QLineEdit>("EditComment3")->text(), comment ? QString("lot 7 wafer 3") : QString("Output"));
+  ShowTab(4);
+  QCOMPARE(Find<QLineEdit>("EditComment4")->text(), comment ? QString("lot 7 wafer 3") : QString("Graphic"));
+}
+
+void OutputPagesTest::TableClearsRowsOfRemovedFiles() {
+  DropTwoFiles();
+  Window().FilesDropped({mainwin_test::WriteSeriesFile(dir_, "bias_6mA.s2p", "! Ic=6m")});
+  ShowTab(5);
+  auto* grid = Find<controls::TStringAlignGrid>("StringAlignGridTab");
+  QVERIFY(!grid->Cells(0, 3).isEmpty());
+  ShowTab(1);
+  QTest::mouseClick(Find<QWidget>("SpeedButtonDeletaLastFile"), Qt::LeftButton);
+  ShowTab(5);
+  for (int column = 0; column < 8; ++column) QVERIFY(grid->Cells(column, 3).isEmpty());
+  QVERIFY(!grid->Cells(0, 2).isEmpty());
+}
+
+void OutputPagesTest::ExportMatchesTheEngineByteForByte_data() {
+  QTest::addColumn<QString>("control");
+  QTest::newRow("page button") << "BitBtn1";
+  QTest::newRow("menu item") << "ExportData1";
+}
+
+void OutputPagesTest::ExportMatchesTheEngineByteForByte() {
+  QFETCH(QString, control);
+  Find<QCheckBox>("CheckBoxDensity")->setChecked(true);
+  Find<QCheckBox>("CheckBoxComment")->setChecked(true);
+  Find<QPlainTextEdit>("MemoComment")->setPlainText("lot 7");
+  const QStringList files = DropTwoFiles();
+  mainwin_test::DialogAnswers answers(Out("result.spa"), QString());
+  if (auto* item = Window().findChild<QAction*>(control)) {
+    item->trigger();
+  } else {
+    QTest::mouseClick(Find<QPushButton>(qPrintable(control)), Qt::LeftButton);
+  }
+  QCOMPARE(answers.SaveTitles(), QStringList({"Save Calculated Data"}));
+  // The page's entries as set above, written out by hand.
+  mainwin::SeriesSettings settings;
+  settings.fo = 2e9;
+  settings.multiplier = 1e6;
+  settings.lgnd = 100e-12;
+  settings.area = 500;
+  settings.density = true;
+  settings.comment = "lot 7";
+  mainwin::SeriesList list;
+  list.Append({files[0].toStdString(), files[1].toStdString()});
+  mainwin::SeriesArrays arrays;
+  QVERIFY(mainwin::EvaluateSeries(list, settings, arrays).completed);
+  const std::string expected = mainwin::SpaContent(list, arrays, settings);
+  QFile written(Out("result.spa"));
+  QVERIFY(written.open(QIODevice::ReadOnly));
+  const QByteArray bytes = written.readAll();
+  QCOMPARE(bytes, QByteArray::fromStdString(expected));
+  QVERIFY(bytes.startsWith("Data derived by lioraira: lot 7\n"));
+  QVERIFY(bytes.contains("  j/(mA/\xB5m\xB2)\n"));
+  QCOMPARE(bytes.count('\n'), 4);
+}
+
+void OutputPagesTest::ExportWritesNothingWithoutFilesOrWhenCancelled() {
+  mainwin_test::MessageLog log;
+  {
+    mainwin_test::DialogAnswers answers(Out("empty.spa"), QString());
+    QTest::mouseClick(Find<QPushButton>("BitBtn1"), Qt::LeftButton);
+    QCOMPARE(log.Messages(), QStringList({"Please drag s2p file(s) to the program."}));
+    QVERIFY(answers.SaveTitles().isEmpty());
+  }
+  QVERIFY(!QFile::exists(Out("empty.spa")));
+  DropTwoFiles();
+  const QStringList before = QDir(dir_.path()).entryList();
+  mainwin_test::DialogAnswers cancelled{QString(), QString()};
+  Find<QAction>("ExportData1")->trigger();
+  QCOMPARE(cancelled.SaveTitles().size(), 1);
+  QCOMPARE(QDir(dir_.path()).entryList(), before);
+}
+
+void OutputPagesTest::PrintCommandsPrintTheirSheets_data() {
+  QTest::addColumn<int>("tab");
+  QTest::addColumn<QString>("item");
+  QTest::addColumn<int>("pages");
+  QTest::newRow("print on page 2") << 1 << "Drucken1" << 1;
+  QTest::newRow("print a graph page") << 2 << "Drucken1" << 1;
+  QTest::newRow("print the table page") << 5 << "Drucken1" << 1;
+  QTest::newRow("all windows") << 1 << "PrintAllWindows1" << 4;
+  QTest::newRow("first two outputs") << 1 << "Print1stTwo1" << 1;
+  QTest::newRow("output table") << 1 << "PrintTable1" << 1;
+}
+
+void OutputPagesTest::PrintCommandsPrintTheirSheets() {
+  QFETCH(int, tab);
+  QFETCH(QString, item);
+  QFETCH(int, pages);
+  DropTwoFiles();
+  ShowTab(tab);
+  const QString pdf = Out(item + QString::number(tab) + ".pdf");
+  mainwin_test::DialogAnswers answers(QString(), pdf);
+  Find<QAction>(qPrintable(item))->trigger();
+  QCOMPARE(answers.PrintDialogs(), 1);
+  QCOMPARE(mainwin_test::PdfPageCount(pdf), pages);
+}
+
+void OutputPagesTest::GraphsArePrintedAtThePrintersResolution() {
+  DropTwoFiles();
+  ShowTab(2);
+  mainwin_test::DialogAnswers answers(QString(), Out("graph.pdf"));
+  Find<QAction>("Drucken1")->trigger();
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  // The graph spans the printable width in the printer's own pixels, not the screen's.
+  QCOMPARE(diagram::CurrentDiagram().width, printer.width());
+  QVERIFY(printer.width() > 4 * Image(OutputPage::FtFmax).width());
+}
+
+void OutputPagesTest::PrintingNeedsTwoFilesAndACompletedDialog() {
+  mainwin_test::MessageLog log;
+  {
+    mainwin_test::DialogAnswers answers(QString(), Out("none.pdf"));
+    Find<QAction>("PrintAllWindows1")->trigger();
+    QCOMPARE(log.Messages(), QStringList({"Please insert two or more files."}));
+    QCOMPARE(answers.PrintDialogs(), 0);
+  }
+  DropTwoFiles();
+  mainwin_test::DialogAnswers cancelled{QString(), QString()};
+  Find<QAction>("PrintTable1")->trigger();
+  QCOMPARE(cancelled.PrintDialogs(), 1);
+  QVERIFY(!QFile::exists(Out("none.pdf")));
+}
+
+void OutputPagesTest::PictureFilesHoldTheShownGraph_data() {
+  QTest::addColumn<QString>("item");
+  QTest::addColumn<QString>("title");
+  QTest::addColumn<int>("tolerance");  // JPEG may change a pixel by this much per channel
+  QTest::newRow("BMP") << "SaveGraphBMP1" << "Save Graph to BMP File" << 0;
+  QTest::newRow("JPG") << "SaveGraphJPG1" << "Save Graph to JPG File" << 160;
+}
+
+void OutputPagesTest::PictureFilesHoldTheShownGraph() {
+  QFETCH(QString, item);
+  QFETCH(QString, title);
+  QFETCH(int, tolerance);
+  DropTwoFiles();
+  ShowTab(3);
+  const QString path = Out(item + ".picture");
+  mainwin_test::DialogAnswers answers(path, QString());
+  Find<QAction>(qPrintable(item))->trigger();
+  QCOMPARE(answers.SaveTitles(), QStringList({title}));
+  const QImage shown = Image(OutputPage::KMag).Picture();
+  const QImage saved = QImage(path).convertToFormat(QImage::Format_RGB32);
+  QCOMPARE(saved.size(), shown.size());
+  QCOMPARE(saved.size(), Image(OutputPage::KMag).size());
+  int worst = 0;
+  for (int y = 0; y < shown.height(); ++y) {
+    for (int x = 0; x < shown.width(); ++x) {
+      const QRgb a = shown.pixel(x, y), b = saved.pixel(x, y);
+      worst = std::max({worst, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+    }
+  }
+  QVERIFY2(worst <= tolerance, qPrintable(QString::number(worst)));
+}
+
+void OutputPagesTest::CopyImagePutsTheGraphOnTheClipboard() {
+  DropTwoFiles();
+  ShowTab(4);
+  Find<QAction>("CopyImage1")->trigger();
+  QCOMPARE(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32),
+           Image(OutputPage::StabilityLimit).Picture());
+}
+
+void OutputPagesTest::PicturesNeedAGraphPage() {
+  DropTwoFiles();
+  ShowTab(5);
+  mainwin_test::MessageLog log;
+  mainwin_test::DialogAnswers answers(Out("table.bmp"), QString());
+  Find<QAction>("SaveGraphBMP1")->trigger();
+  Find<QAction>("CopyImage1")->trigger();
+  QCOMPARE(log.Messages().size(), 2);
+  QVERIFY(log.Messages().front().endsWith("first, then copy or save its graph!"));
+  QVERIFY(answers.SaveTitles().isEmpty());
+  QVERIFY(!QFile::exists(Out("table.bmp")));
+}
+
+void OutputPagesTest::MouseReadsOutTheValues() {
+  DropTwoFiles();
+  ShowTab(2);
+  auto& image = const_cast<mainwin::TGraphImage&>(Image(OutputPage::FtFmax));
+  // 2 and 4 mA: the x axis runs from 0 to 5 mA over the frame columns of the image's width.
+  const int left = static_cast<int>(std::lround(0.05 * image.width() + 28));
+  const int right = static_cast<int>(std::lround(0.95 * image.width() - 14));
+  const int column = static_cast<int>(std::lround(left + 0.8 * (right - left)));
+  QTest::mouseMove(&image, QPoint(column, image.height() / 2));
+  const QString text = Window().statusBar()->currentMessage();
+  QVERIFY2(text.startsWith("x: 4.00m, y: "), qPrintable(text));
+  QTest::mouseMove(&image, QPoint(2, 2));
+  QVERIFY(Window().statusBar()->currentMessage().isEmpty());
+}
+
+int RunOutputPagesTests(int argc, char** argv) {
+  OutputPagesTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+#include "output_pages_test.moc"

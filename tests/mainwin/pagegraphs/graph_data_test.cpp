@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "diagram/curves.h"
+#include "mainwin/pagegraphs/graph_data.h"
+
+namespace mainwin::pagegraphs {
+namespace {
+
+// Three files at 1, 2 and 4 mA.
+PageScene ThreeFiles() {
+  PageScene scene;
+  scene.settings = DefaultSeriesSettings();
+  scene.results = {{1e-3, 10e9, 16e9, 12.5, 0, 0.8, 0},
+                   {2e-3, 20e9, 30e9, 15.0, 0, 1.2, 3e9},
+                   {4e-3, 25e9, 35e9, 16.5, 0, 2.5, 1e9}};
+  return scene;
+}
+
+struct XCase {
+  const char* name;
+  XAxisChoice choice;
+  bool density;
+  std::vector<double> x;
+  const char* title;
+};
+void PrintTo(const XCase& c, std::ostream* os) { *os << c.name; }
+
+class XValuesTest : public testing::TestWithParam<XCase> {};
+
+TEST_P(XValuesTest, FollowTheXAxisChoice) {
+  PageScene scene = ThreeFiles();
+  scene.settings.xAxis = GetParam().choice;
+  scene.settings.density = GetParam().density;
+  scene.settings.area = 500;
+  const std::vector<double> x = XValues(scene);
+  ASSERT_EQ(x.size(), GetParam().x.size());
+  for (std::size_t i = 0; i < x.size(); ++i) EXPECT_DOUBLE_EQ(x[i], GetParam().x[i]) << i;
+  EXPECT_EQ(XAxisTitle(scene.settings), GetParam().title);
+}
+
+// j = 1000 * I / area: 1 mA on 500 square micrometres is 0.002 mA per square micrometre.
+INSTANTIATE_TEST_SUITE_P(
+    Choices, XValuesTest,
+    testing::Values(XCase{"FileNumber", XAxisChoice::FileNumber, false, {1, 2, 3}, "File Number"},
+                    XCase{"FileNumberIgnoresDensity", XAxisChoice::FileNumber, true, {1, 2, 3}, "File Number"},
+                    XCase{"CurrentIc", XAxisChoice::CurrentIc, false, {1e-3, 2e-3, 4e-3}, "I in A"},
+                    XCase{"CurrentId", XAxisChoice::CurrentId, false, {1e-3, 2e-3, 4e-3}, "I in A"},
+                    XCase{"Density", XAxisChoice::CurrentIc, true, {0.002, 0.004, 0.008}, "I in mA/µm²"}),
+    [](const testing::TestParamInfo<XCase>& info) { return std::string(info.param.name); });
+
+struct GraphCase {
+  const char* name;
+  OutputPage page;
+  GraphicChoice choice;
+  const char* yTitle;
+  std::vector<std::vector<double>> series;
+  double leastYMax;
+  bool legend;
+  bool crosses = true;  // the first series shown is fT, k or f(k>1): green crosses, else red circles
+};
+void PrintTo(const GraphCase& c, std::ostream* os) { *os << c.name; }
+
+class PageGraphTest : public testing::TestWithParam<GraphCase> {};
+
+TEST_P(PageGraphTest, ShowsTheChosenSeries) {
+  PageScene scene = ThreeFiles();
+  scene.choice = GetParam().choice;
+  const PageGraph graph = GraphOf(GetParam().page, scene);
+  EXPECT_EQ(graph.yTitle, GetParam().yTitle);
+  ASSERT_EQ(graph.series.size(), GetParam().series.size());
+  for (std::size_t s = 0; s < graph.series.size(); ++s) {
+    ASSERT_EQ(graph.series[s].y.size(), 3u);
+    for (std::size_t i = 0; i < 3; ++i) EXPECT_DOUBLE_EQ(graph.series[s].y[i], GetParam().series[s][i]) << s << i;
+  }
+  EXPECT_EQ(graph.series.front().colour, GetParam().crosses ? diagram::kGreen : diagram::kRed);
+  EXPECT_EQ(graph.series.front().marker, GetParam().crosses ? diagram::kMarkerCross : diagram::kMarkerCircle);
+  EXPECT_EQ(graph.leastYMax, GetParam().leastYMax);
+  EXPECT_EQ(BothSeriesShown(GetParam().page, scene.choice), GetParam().legend);
+}
+
+constexpr GraphicChoice kAll{};
+constexpr GraphicChoice kFTOnly{true, false, false, false};
+constexpr GraphicChoice kFmaxOnly{false, true, false, false};
+constexpr GraphicChoice kMagOnly{false, false, true, false};
+constexpr GraphicChoice kKOnly{false, false, false, true};
+constexpr GraphicChoice kFTAndMag{true, false, true, false};
+
+INSTANTIATE_TEST_SUITE_P(
+    Choices, PageGraphTest,
+    testing::Values(
+        GraphCase{"FtFmaxBoth", OutputPage::FtFmax, kAll, "fT & fmax in Hz", {{10e9, 20e9, 25e9}, {16e9, 30e9, 35e9}}, 0, true},
+        GraphCase{"FtOnly", OutputPage::FtFmax, kFTOnly, "fT in Hz", {{10e9, 20e9, 25e9}}, 0, false},
+        GraphCase{"FmaxOnly", OutputPage::FtFmax, kFmaxOnly, "fmax in Hz", {{16e9, 30e9, 35e9}}, 0, false, false},
+        GraphCase{"FtFmaxIgnoresTheGainItems", OutputPage::FtFmax, kKOnly, "fT & fmax in Hz",
+                  {{10e9, 20e9, 25e9}, {16e9, 30e9, 35e9}}, 0, true},
+        GraphCase{"KTimesTenAndMag", OutputPage::KMag, kAll, "k (x10), MAG+MSG in dB", {{8, 12, 25}, {12.5, 15, 16.5}}, 15, true},
+        GraphCase{"KOnlyUnscaled", OutputPage::KMag, kKOnly, "k Factor", {{0.8, 1.2, 2.5}}, 0, false},
+        GraphCase{"MagOnly", OutputPage::KMag, kMagOnly, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, false},
+        GraphCase{"FtAndMagOnTheGainPage", OutputPage::KMag, kFTAndMag, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, false},
+        GraphCase{"StabilityLimit", OutputPage::StabilityLimit, kAll, "f(k>1) in Hz", {{0, 3e9, 1e9}}, 0, false}),
+    [](const testing::TestParamInfo<GraphCase>& info) { return std::string(info.param.name); });
+
+struct LimitCase {
+  const char* name;
+  std::vector<double> fk;
+  bool unstable;
+};
+void PrintTo(const LimitCase& c, std::ostream* os) { *os << c.name; }
+
+class UnstableTitleTest : public testing::TestWithParam<LimitCase> {};
+
+TEST_P(UnstableTitleTest, WarnsInTheAxisTitleWhenNoFileHasALimit) {
+  PageScene scene = ThreeFiles();
+  scene.results.resize(GetParam().fk.size());
+  for (std::size_t i = 0; i < scene.results.size(); ++i) scene.results[i].fk = GetParam().fk[i];
+  const std::string expected =
+      GetParam().unstable ? "Sorry! In the whole measured region the device is unstable!" : "f(k>1) in Hz";
+  EXPECT_EQ(GraphOf(OutputPage::StabilityLimit, scene).yTitle, expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Limits, UnstableTitleTest,
+                         testing::Values(LimitCase{"EveryFileUnstable", {0, 0, 0}, true},
+                                         LimitCase{"AtTheThreshold", {0, 1e-6}, true},
+                                         LimitCase{"JustAboveTheThreshold", {0, 2e-6}, false},
+                                         LimitCase{"OneFileWithALimit", {0, 0, 5e9}, false},
+                                         LimitCase{"NoFile", {}, true}),
+                         [](const testing::TestParamInfo<LimitCase>& info) { return std::string(info.param.name); });
+
+}  // namespace
+}  // namespace mainwin::pagegraphs

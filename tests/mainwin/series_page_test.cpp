@@ -1,0 +1,290 @@
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <memory>
+
+#include "fixtures.h"
+#include "mainwin/engine/table_cells.h"
+#include "mainwin/form_set.h"
+#include "mainwin/main_window.h"
+
+using mainwin::FormSet;
+using mainwin::TSDIAppForm;
+
+// Page 2: dropping files, the file list and its buttons, reordering, and the messages of the
+// evaluation.
+class SeriesPageTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void FortyFiveFilesKeepFortyAndAFurtherDropIsRefused();
+  void DropsOnEveryPageButTheFirstExtendTheSeries_data();
+  void DropsOnEveryPageButTheFirstExtendTheSeries();
+  void FirstPageDropOfAMissingFile();
+  void FoldersGiveTheirSeriesFilesAndOtherFilesAreRefused();
+  void AutoCalculateEvaluatesOnEveryDrop();
+  void DeleteLastOnAnEmptyListDoesNothing();
+  void DeleteButtonsShortenTheListAndClearRows();
+  void SelectingTheOnlyFileShowsItsValues();
+  void AnsweringYesMovesTheFileUp_data();
+  void AnsweringYesMovesTheFileUp();
+  void AnsweringNoKeepsTheOrder();
+  void CalculateWithAnEmptyListAsksForFiles();
+  void DensityNeedsAnArea();
+  void FilesWithoutCurrentAreReported_data();
+  void FilesWithoutCurrentAreReported();
+
+ private:
+  TSDIAppForm& Window() { return *forms_->SDIAppForm(); }
+  template <typename T>
+  T* Find(const char* name) {
+    T* found = Window().findChild<T*>(name);
+    if (!found) qFatal("no control %s", name);
+    return found;
+  }
+  QStringList SeriesFiles(int count, const QString& comment = QStringLiteral("! Ic=1m"));
+  QString Row(int row) { return Find<QTableWidget>("StringGridFiles")->item(row, 0)->text(); }
+  QStringList SeriesPaths();
+  void ShowSeriesPage(bool autoCalculate = true);
+
+  QTemporaryDir dir_;
+  std::unique_ptr<FormSet> forms_;
+};
+
+void SeriesPageTest::init() {
+  forms_.reset();
+  mainwin_test::ResetProgramState();
+  forms_ = std::make_unique<FormSet>(QStringList());
+}
+
+QStringList SeriesPageTest::SeriesFiles(int count, const QString& comment) {
+  QStringList files;
+  for (int i = 1; i <= count; ++i) {
+    files.append(mainwin_test::WriteSeriesFile(dir_, QStringLiteral("p%1.s2p").arg(i, 2, 10, QLatin1Char('0')), comment));
+  }
+  return files;
+}
+
+QStringList SeriesPageTest::SeriesPaths() {
+  QStringList paths;
+  for (const std::string& path : Window().Series().Paths()) paths.append(QString::fromStdString(path));
+  return paths;
+}
+
+void SeriesPageTest::ShowSeriesPage(bool autoCalculate) {
+  Find<QTabBar>("TabSet1")->setCurrentIndex(1);
+  Find<QCheckBox>("CheckBoxAutoCalculate")->setChecked(autoCalculate);
+}
+
+void SeriesPageTest::FortyFiveFilesKeepFortyAndAFurtherDropIsRefused() {
+  ShowSeriesPage(false);
+  mainwin_test::MessageLog log;
+  const QStringList files = SeriesFiles(46);
+  Window().FilesDropped(files.mid(0, 45));
+  QCOMPARE(SeriesPaths(), files.mid(0, 40));
+  for (const int row : {1, 40}) {
+    QCOMPARE(Row(row), QString::fromStdString(mainwin::FileListPathText(files[row - 1].toStdString())));
+  }
+  QCOMPARE(Find<QLabel>("LabelNo")->text(), QStringLiteral("Number of files = 40"));
+  QVERIFY(log.Messages().isEmpty());
+  Window().FilesDropped({files[45]});
+  QCOMPARE(log.Messages(),
+           QStringList({"Maximum of 40 files reached! Perform calculation to get the results."}));
+  QCOMPARE(Window().Series().SeriesCount(), std::size_t{40});
+}
+
+void SeriesPageTest::DropsOnEveryPageButTheFirstExtendTheSeries_data() {
+  QTest::addColumn<int>("tab");
+  for (int tab = 1; tab <= 5; ++tab) QTest::addRow("page %d", tab + 1) << tab;
+}
+
+void SeriesPageTest::DropsOnEveryPageButTheFirstExtendTheSeries() {
+  QFETCH(int, tab);
+  ShowSeriesPage(false);
+  const QStringList files = SeriesFiles(3);
+  Window().FilesDropped(files.mid(0, 2));
+  Find<QTabBar>("TabSet1")->setCurrentIndex(tab);
+  QCOMPARE(Window().PageNumber(), tab + 1);
+  Window().FilesDropped({files[2]});
+  QCOMPARE(SeriesPaths(), files);
+  QCOMPARE(Row(3), QString::fromStdString(mainwin::FileListPathText(files[2].toStdString())));
+}
+
+void SeriesPageTest::FirstPageDropOfAMissingFile() {
+  mainwin_test::MessageLog log;
+  const QString missing = dir_.filePath("gone.s2p");
+  Window().FilesDropped({missing, SeriesFiles(1).front()});
+  QCOMPARE(log.Messages(), QStringList({"File -" + missing + "- is not available!"}));
+  QCOMPARE(Window().Series().SeriesCount(), std::size_t{0});
+}
+
+void SeriesPageTest::FoldersGiveTheirSeriesFilesAndOtherFilesAreRefused() {
+  ShowSeriesPage(false);
+  mainwin_test::MessageLog log;
+  QDir(dir_.path()).mkdir("lot");
+  const QString b = mainwin_test::WriteSeriesFile(dir_, "lot/b.s2p", "! Ic=2m");
+  const QString a = mainwin_test::WriteSeriesFile(dir_, "lot/a.s2p", "! Ic=1m");
+  const QString notes = mainwin_test::WriteSeriesFile(dir_, "notes.txt", "! Ic=1m");
+  const QString single = SeriesFiles(1).front();
+  Window().FilesDropped({single, dir_.filePath("lot"), notes});
+  QCOMPARE(SeriesPaths(), QStringList({single, a, b}));
+  QCOMPARE(log.Messages().size(), 1);
+  QVERIFY2(log.Messages().front().contains(notes), qPrintable(log.Messages().front()));
+  QVERIFY(!log.Messages().front().contains(single));
+}
+
+void SeriesPageTest::AutoCalculateEvaluatesOnEveryDrop() {
+  ShowSeriesPage(false);
+  const QStringList files = SeriesFiles(2);
+  Window().FilesDropped({files[0]});
+  QVERIFY(Window().Results().empty());
+  Find<QCheckBox>("CheckBoxAutoCalculate")->setChecked(true);
+  Window().FilesDropped({files[1]});
+  QCOMPARE(Window().Results().size(), std::size_t{2});
+  QCOMPARE(Window().Results()[1].current, 1e-3);
+}
+
+void SeriesPageTest::DeleteLastOnAnEmptyListDoesNothing() {
+  ShowSeriesPage();
+  mainwin_test::MessageLog log;
+  QTest::mouseClick(Find<QToolButton>("SpeedButtonDeletaLastFile"), Qt::LeftButton);
+  QCOMPARE(Window().Series().SeriesCount(), std::size_t{0});
+  QCOMPARE(Find<QLabel>("LabelNo")->text(), QStringLiteral("Number of files = 0"));
+  QVERIFY(log.Messages().isEmpty());
+}
+
+void SeriesPageTest::DeleteButtonsShortenTheListAndClearRows() {
+  ShowSeriesPage(false);
+  const QStringList files = SeriesFiles(3);
+  Window().FilesDropped(files);
+  QTest::mouseClick(Find<QToolButton>("SpeedButtonDeletaLastFile"), Qt::LeftButton);
+  QCOMPARE(SeriesPaths(), files.mid(0, 2));
+  QVERIFY(Row(3).isEmpty());
+  QVERIFY(!Row(2).isEmpty());
+  QCOMPARE(Find<QLabel>("LabelNo")->text(), QStringLiteral("Number of files = 2"));
+  QTest::mouseClick(Find<QToolButton>("SpeedButtonDeleteList"), Qt::LeftButton);
+  QCOMPARE(Window().Series().SeriesCount(), std::size_t{0});
+  QVERIFY(Row(1).isEmpty() && Row(2).isEmpty());
+  QCOMPARE(Find<QLabel>("LabelNo")->text(), QStringLiteral("Number of files = 0"));
+}
+
+void SeriesPageTest::SelectingTheOnlyFileShowsItsValues() {
+  ShowSeriesPage();
+  Window().FilesDropped(SeriesFiles(1));
+  mainwin_test::MessageLog log;
+  mainwin_test::QuestionLog questions(true);
+  emit Find<QTableWidget>("StringGridFiles")->cellClicked(1, 0);
+  QCOMPARE(log.Messages().size(), 1);
+  const QRegularExpression text(R"(^fT=\d+\.\dGHz, Gain=\d+\.\d\ddB, k=\d+\.\d\d\d$)");
+  QVERIFY2(text.match(log.Messages().front()).hasMatch(), qPrintable(log.Messages().front()));
+  QVERIFY(questions.Questions().isEmpty());
+}
+
+void SeriesPageTest::AnsweringYesMovesTheFileUp_data() {
+  QTest::addColumn<int>("row");
+  QTest::addColumn<QList<int>>("order");  // file numbers after the move
+  QTest::newRow("row 1 changes places with the last") << 1 << QList<int>{3, 2, 1};
+  QTest::newRow("row 2 moves up") << 2 << QList<int>{2, 1, 3};
+  QTest::newRow("row 3 moves up") << 3 << QList<int>{1, 3, 2};
+}
+
+void SeriesPageTest::AnsweringYesMovesTheFileUp() {
+  QFETCH(int, row);
+  QFETCH(QList<int>, order);
+  ShowSeriesPage();
+  const QStringList files = {mainwin_test::WriteSeriesFile(dir_, "f1.s2p", "! Ic=1m"),
+                             mainwin_test::WriteSeriesFile(dir_, "f2.s2p", "! Ic=2m"),
+                             mainwin_test::WriteSeriesFile(dir_, "f3.s2p", "! Ic=3m")};
+  Window().FilesDropped(files);
+  mainwin_test::QuestionLog questions(true);
+  emit Find<QTableWidget>("StringGridFiles")->cellClicked(row, 0);
+  QCOMPARE(questions.Questions().size(), 1);
+  const QRegularExpression question(R"(^fT=\d+\.\dGHz, Gain=\d+\.\d\ddB, k=\d+\.\d\d\d - Move set one position to the top\?$)");
+  QVERIFY2(question.match(questions.Questions().front()).hasMatch(), qPrintable(questions.Questions().front()));
+  for (int i = 0; i < 3; ++i) {
+    QCOMPARE(SeriesPaths()[i], files[order[i] - 1]);
+    QCOMPARE(Row(i + 1), QString::fromStdString(mainwin::FileListPathText(files[order[i] - 1].toStdString())));
+    // "Auto Calculate" evaluated again: the currents follow their files.
+    QCOMPARE(Window().Results()[static_cast<std::size_t>(i)].current, order[i] * 1e-3);
+  }
+}
+
+void SeriesPageTest::AnsweringNoKeepsTheOrder() {
+  ShowSeriesPage();
+  const QStringList files = SeriesFiles(2);
+  Window().FilesDropped(files);
+  mainwin_test::QuestionLog questions(false);
+  emit Find<QTableWidget>("StringGridFiles")->cellClicked(2, 0);
+  QCOMPARE(questions.Questions().size(), 1);
+  QCOMPARE(SeriesPaths(), files);
+  emit Find<QTableWidget>("StringGridFiles")->cellClicked(3, 0);  // a row without a file
+  QCOMPARE(questions.Questions().size(), 1);
+}
+
+void SeriesPageTest::CalculateWithAnEmptyListAsksForFiles() {
+  ShowSeriesPage();
+  mainwin_test::MessageLog log;
+  QTest::mouseClick(Find<QPushButton>("BitBtnCalc"), Qt::LeftButton);
+  QCOMPARE(log.Messages(), QStringList({"Please drag s2p file(s) to the program."}));
+}
+
+void SeriesPageTest::DensityNeedsAnArea() {
+  ShowSeriesPage(false);
+  Window().FilesDropped(SeriesFiles(2));
+  Find<QCheckBox>("CheckBoxDensity")->setChecked(true);
+  Find<QLineEdit>("AreaEingabe")->setText("0");
+  mainwin_test::MessageLog log;
+  QTest::mouseClick(Find<QPushButton>("BitBtnCalc"), Qt::LeftButton);
+  QCOMPARE(log.Messages(), QStringList({"The current density needs a transistor area above 0 µm². Enter the area, "
+                                        "then calculate again!"}));
+  QVERIFY(Window().Results().empty());
+  Find<QLineEdit>("AreaEingabe")->setText("500");
+  QTest::mouseClick(Find<QPushButton>("BitBtnCalc"), Qt::LeftButton);
+  QCOMPARE(Window().Results().size(), std::size_t{2});
+}
+
+void SeriesPageTest::FilesWithoutCurrentAreReported_data() {
+  QTest::addColumn<QString>("comment");
+  QTest::addColumn<QString>("xAxis");
+  QTest::addColumn<bool>("reported");
+  QTest::addColumn<double>("current");
+  QTest::newRow("Ic read with Current Ic") << "! Ic=2m" << "RadioButtonIc" << false << 2e-3;
+  QTest::newRow("Id read with Current Ic") << "! Id=2m" << "RadioButtonIc" << false << 2e-3;
+  QTest::newRow("Id with Current Id") << "! Id=2m" << "RadioButtonId" << true << 0.0;
+  QTest::newRow("Ic with File Number") << "! Ic=2m" << "RadioButtonFileNo" << true << 0.0;
+  QTest::newRow("no current") << "! VCE=3V" << "RadioButtonIc" << true << 0.0;
+}
+
+void SeriesPageTest::FilesWithoutCurrentAreReported() {
+  QFETCH(QString, comment);
+  QFETCH(QString, xAxis);
+  QFETCH(bool, reported);
+  QFETCH(double, current);
+  ShowSeriesPage(false);
+  Find<QRadioButton>(qPrintable(xAxis))->setChecked(true);
+  const QStringList files = {SeriesFiles(1, "! Ic=1m").front(), mainwin_test::WriteSeriesFile(dir_, "x.s2p", comment)};
+  Window().FilesDropped(files);
+  mainwin_test::MessageLog log;
+  QTest::mouseClick(Find<QPushButton>("BitBtnCalc"), Qt::LeftButton);
+  const QString message = "Possibly the file " + files[1] + " might be errorness (e.g. no Ic specified).";
+  QVERIFY2(log.Messages().contains(message) == reported, qPrintable(log.Messages().join('\n')));
+  QCOMPARE(Window().Results().size(), std::size_t{2});
+  QCOMPARE(Window().Results()[1].current, current);
+}
+
+int RunSeriesPageTests(int argc, char** argv) {
+  SeriesPageTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+#include "series_page_test.moc"
