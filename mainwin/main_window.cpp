@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "controls/string_align_grid.h"
+#include "mainwin/engine/table_cells.h"
 #include "form_set.h"
 #include "frequency_page.h"
 #include "graph_image.h"
@@ -34,7 +35,6 @@ constexpr int kClientWidth = 641;
 constexpr int kClientHeight = 473;
 constexpr int kFirstOutputPage = 3;
 const char* const kGeometryKey = "MainWindow/Geometry";
-const char* const kTableHeader[] = {"File Name", "Ic", "fT", "fmax", "MAG/MSG", "k", "f(k>1)", "j/(mA/µm²)"};
 
 // Six captions side by side must fit the fixed width: a smaller, condensed font, and where that is
 // not enough the longest captions shortened on screen (the tool tip holds the whole caption).
@@ -132,8 +132,8 @@ void TSDIAppForm::FormCreate(const QStringList& arguments) {
   }
   connect(tabSet1_, &QTabBar::currentChanged, this, &TSDIAppForm::TabSet1Click);
   auto* table = findChild<controls::TStringAlignGrid*>("StringAlignGridTab");
-  for (int column = 0; column < std::ssize(kTableHeader); ++column) {
-    table->SetCells(column, 0, QString::fromUtf8(kTableHeader[column]));
+  for (int column = 0; column < static_cast<int>(kTableColumnCount); ++column) {
+    table->SetCells(column, 0, QString::fromUtf8(kTableHeader[static_cast<std::size_t>(column)]));
   }
   ReadIniFile();
   inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
