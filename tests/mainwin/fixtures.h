@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QWidget>
 #include <vector>
 
 #include "mainwin/dialog_hooks.h"
@@ -10,6 +11,14 @@
 
 // Small data files made for the tests, and the messages the window would have shown.
 namespace mainwin_test {
+
+// The control of that object name inside the window; a missing one ends the test run.
+template <typename T>
+T* FindControl(const QWidget& window, const char* name) {
+  T* found = window.findChild<T*>(name);
+  if (!found) qFatal("no control %s", name);
+  return found;
+}
 
 // Writes a two-port file with the given number of points (100 MHz apart, from 100 MHz).
 QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points);

@@ -73,11 +73,7 @@ class FrequencyPageTest : public QObject {
   }
   mainwin::TSDIAppForm& Window() { return *forms_->SDIAppForm(); }
   template <typename T>
-  T* Find(const char* name) {
-    T* found = Window().findChild<T*>(name);
-    if (!found) qFatal("no control %s", name);
-    return found;
-  }
+  T* Find(const char* name) { return mainwin_test::FindControl<T>(Window(), name); }
   int ListCount() { return Find<QListWidget>("CheckListBox1")->count(); }
 
   QTemporaryDir dir_;

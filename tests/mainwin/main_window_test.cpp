@@ -56,11 +56,7 @@ class MainWindowTest : public QObject {
   std::unique_ptr<FormSet> Start(const QStringList& arguments = {});
   QStringList Files(int count);
   template <typename T>
-  T* Find(const char* name) {
-    T* found = forms_->SDIAppForm()->findChild<T*>(name);
-    if (!found) qFatal("no control %s", name);
-    return found;
-  }
+  T* Find(const char* name) { return mainwin_test::FindControl<T>(*forms_->SDIAppForm(), name); }
 
   QTemporaryDir dir_;
   std::unique_ptr<FormSet> forms_;

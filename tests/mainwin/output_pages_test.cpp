@@ -70,11 +70,7 @@ class OutputPagesTest : public QObject {
  private:
   TSDIAppForm& Window() { return *forms_->SDIAppForm(); }
   template <typename T>
-  T* Find(const char* name) {
-    T* found = Window().findChild<T*>(name);
-    if (!found) qFatal("no control %s", name);
-    return found;
-  }
+  T* Find(const char* name) { return mainwin_test::FindControl<T>(Window(), name); }
   // Files at 2 and 4 mA on page 2, evaluated, with the area 500 square micrometres.
   QStringList DropTwoFiles(bool stable = true);
   void ShowTab(int tab) { Find<QTabBar>("TabSet1")->setCurrentIndex(tab); }

@@ -47,11 +47,7 @@ class SeriesPageTest : public QObject {
  private:
   TSDIAppForm& Window() { return *forms_->SDIAppForm(); }
   template <typename T>
-  T* Find(const char* name) {
-    T* found = Window().findChild<T*>(name);
-    if (!found) qFatal("no control %s", name);
-    return found;
-  }
+  T* Find(const char* name) { return mainwin_test::FindControl<T>(Window(), name); }
   QStringList SeriesFiles(int count, const QString& comment = QStringLiteral("! Ic=1m"));
   QString Row(int row) { return Find<QTableWidget>("StringGridFiles")->item(row, 0)->text(); }
   QStringList SeriesPaths();
