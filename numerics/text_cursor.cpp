@@ -29,37 +29,46 @@ struct DecimalShape {
   long long exponent = 0;
 };
 
-// Works on locals so that the loop keeps them in registers; written back once at the end.
-void ScanMantissa(std::string_view t, std::size_t& index, DecimalShape& d, bool& anyDigit) {
+// Below this a mantissa takes one more digit without overflow: 19 significant digits at most.
+constexpr std::uint64_t kMantissaDigitLimit = 1000000000000000000ULL;
+
+// Accumulates the digits from i on; fraction digits lower the exponent, digits beyond the
+// mantissa's reach raise it (integer part) or are dropped (fraction), and only zeros stay exact.
+struct MantissaAccumulator {
   std::uint64_t mantissa = 0;
   long long exponent = 0;
-  int significant = 0;
-  bool afterPoint = false;
   bool exact = true;
-  const std::size_t start = index;
-  std::size_t i = index;
-  for (; i < t.size(); ++i) {
-    const char c = t[i];
-    if (c == '.' && !afterPoint) {
-      afterPoint = true;
-      continue;
+
+  std::size_t Digits(std::string_view t, std::size_t i, bool fraction) {
+    for (; i < t.size(); ++i) {
+      const unsigned digit = static_cast<unsigned char>(t[i]) - '0';
+      if (digit > 9) break;
+      if (mantissa < kMantissaDigitLimit) {
+        mantissa = mantissa * 10 + digit;
+        exponent -= fraction;
+      } else {
+        exact = exact && digit == 0;
+        exponent += !fraction;
+      }
     }
-    const unsigned digit = static_cast<unsigned char>(c) - '0';
-    if (digit > 9) break;
-    if (significant < 19) {
-      mantissa = mantissa * 10 + digit;
-      significant += mantissa != 0;
-      exponent -= afterPoint;
-    } else {
-      exact = exact && digit == 0;
-      exponent += !afterPoint;
-    }
+    return i;
   }
-  anyDigit = i - start > static_cast<std::size_t>(afterPoint);
+};
+
+void ScanMantissa(std::string_view t, std::size_t& index, DecimalShape& d, bool& anyDigit) {
+  MantissaAccumulator acc;
+  std::size_t i = acc.Digits(t, index, false);
+  std::size_t digits = i - index;
+  if (i < t.size() && t[i] == '.') {
+    const std::size_t fractionStart = i + 1;
+    i = acc.Digits(t, fractionStart, true);
+    digits += i - fractionStart;
+  }
+  anyDigit = digits > 0;
   index = i;
-  d.mantissa = mantissa;
-  d.exponent = exponent;
-  d.exact = exact;
+  d.mantissa = acc.mantissa;
+  d.exponent = acc.exponent;
+  d.exact = acc.exact;
 }
 
 // Scans from i to the end of the number; i is left on the first character after it.

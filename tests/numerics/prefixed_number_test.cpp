@@ -37,6 +37,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ParseCase{"1M", 1e6, 0}, ParseCase{"1m", 1e-3, 0}, ParseCase{"1.5mA", 1.5e-3, 0},
                     ParseCase{"4t", 4e12, 0}, ParseCase{"2c", 0.02, 0}, ParseCase{"3f", 3e-15, 0},
                     ParseCase{"7a", 7e-18, 0}, ParseCase{"12.5uF", 12.5e-6, 0}, ParseCase{"1n", 1e-9, 0},
+                    ParseCase{"1k5", 1000, 0}, ParseCase{"12G34", 12e9, 0},  // no digit after a prefix
                     ParseCase{"1.5G", 1.5e9, 0}, ParseCase{"2,5M", 2.5e6, 0}, ParseCase{"0", 0, 0},
                     ParseCase{"+5", 5, 0}, ParseCase{"-0.5", -0.5, 0}, ParseCase{"1E-2", 0.01, 0},
                     ParseCase{"5 k", 5, 0},                 // the blank after a digit ends the scan
@@ -51,6 +52,15 @@ TEST(ParseValueText, OnlyNineFractionalDigitsCount) {
   const double expected = 0.123456789 + 1.0 / 1410065408.0;
   EXPECT_DOUBLE_EQ(ParseValueText("0.1234567891").value, expected);
   EXPECT_DOUBLE_EQ(ParseValueText("0.123456789").value, 0.123456789);
+}
+
+TEST(ParseValueText, LongWholeNumbersRoundLikeDigitByDigitExtendedArithmetic) {
+  for (const std::string text : {"12650000000", "999999999999999999", "1000000000000000000",
+                                 "12345678901234567890123", "98765432109876543210987654321"}) {
+    long double expected = 0;
+    for (const char c : text) expected = expected * 10 + (c - '0');
+    EXPECT_EQ(ParseValueText(text).value, static_cast<double>(expected)) << text;
+  }
 }
 
 TEST(ParseValueText, NoInputBreaksIt) {
