@@ -123,13 +123,18 @@ void TerminatedResults(const TwoPortState& st, const FigureInputs& in, TwoPortFi
   fig.voltageGain = Div(Sub(pi.series, pi.transadmittance), den);
 }
 
-}  // namespace
-
-void ComputeTwoPortFigures(TwoPortState& st, const FigureInputs& in, TwoPortFigures& fig) {
+PointTerms GuardedTerms(TwoPortState& st, TwoPortFigures& fig) {
   ShrinkIfUnit(st.s.m11);
   ShrinkIfUnit(st.s.m22);
   PointTerms t = StabilityMeasures(st, fig);
   st.detS = fig.delta;
+  return t;
+}
+
+}  // namespace
+
+void ComputeTwoPortFigures(TwoPortState& st, const FigureInputs& in, TwoPortFigures& fig) {
+  PointTerms t = GuardedTerms(st, fig);
   StabilityCircles(t, fig);
   RollettFactor(st, t, fig);
   GainCircles(in, t, fig);
@@ -140,6 +145,13 @@ void ComputeTwoPortFigures(TwoPortState& st, const FigureInputs& in, TwoPortFigu
   TerminatedResults(st, in, fig);
   const Extended fourProduct = Abs(Mul(Mul(Mul(t.s.m11, t.s.m12), t.s.m22), t.s.m21));
   fig.unilateralFigure = static_cast<double>(fourProduct / (1 - t.s11Sqr) / (1 - t.s22Sqr));
+}
+
+void ComputeGainFigures(TwoPortState& st, TwoPortFigures& fig) {
+  PointTerms t = GuardedTerms(st, fig);
+  RollettFactor(st, t, fig);
+  Gains(t, fig);
+  MasonsU(st, t, fig);
 }
 
 TwoPortFigures& WorkingFigures() {

@@ -47,6 +47,10 @@ struct TwoPortFigures {
 // gammaMS and gammaML keep their previous values where no conjugate match exists.
 void ComputeTwoPortFigures(TwoPortState& st, const FigureInputs& in, TwoPortFigures& fig);
 
+// Only delta, k, mu, mu', MAG, MSG, MUG, U and the mismatch factors, with the same steps and
+// guards as above: for callers that take no circle, match or terminated result per point.
+void ComputeGainFigures(TwoPortState& st, TwoPortFigures& fig);
+
 // The program-wide figures and their inputs, and the argument-free form over WorkingState().
 TwoPortFigures& WorkingFigures();
 FigureInputs& WorkingFigureInputs();

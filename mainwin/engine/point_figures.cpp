@@ -22,9 +22,8 @@ void InsertGroundInductance(numerics::TwoPortState& st, double f, double lgnd) {
 }
 
 PointFigures ComputePointFigures(numerics::TwoPortState& st) {
-  static const numerics::FigureInputs kInputs;
   numerics::TwoPortFigures figures;
-  numerics::ComputeTwoPortFigures(st, kInputs, figures);
+  numerics::ComputeGainFigures(st, figures);
   return {figures.k, figures.bestGain, figures.u};
 }
 
