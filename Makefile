@@ -26,7 +26,7 @@ test-sanitize: setup
 	ctest --test-dir $(SANITIZE_BUILD) --output-on-failure --no-tests=error -j $(JOBS)
 
 bench: build
-	@for b in $(BUILD)/bench/bench_*; do echo "== $$b"; $$b --benchmark_repetitions=5 --benchmark_report_aggregates_only=true || exit 1; done
+	@for b in $(BUILD)/bench/bench_*; do echo "== $$b"; $$b --benchmark_repetitions=15 --benchmark_report_aggregates_only=true || exit 1; done
 	@scripts/bench_commands.sh $(BUILD)
 
 fuzz: setup
