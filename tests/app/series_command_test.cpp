@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <ostream>
 #include <string>
 #include <vector>
 
-#include "app/command_modes.h"
+#include "command_test.h"
 
 namespace app {
 namespace {
@@ -22,24 +19,12 @@ namespace fs = std::filesystem;
 constexpr const char* kPoint = "1000 0 0 2 0 0.25 0 0 0\n";
 constexpr const char* kRow = "     2.00m     2.67G     2.00G   6.021  1.2500     1.00G\n";
 
-class SeriesCommandTest : public testing::Test {
+class SeriesCommandTest : public CommandTest {
  protected:
-  void SetUp() override {
-    folder_ = fs::path(testing::TempDir()) / ("series_" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
-  std::string Fixture(const std::string& name, const std::string& content) {
-    const std::string path = (folder_ / name).string();
-    std::ofstream(path, std::ios::binary) << content;
-    return path;
-  }
-  std::string Device(const std::string& name) { return Fixture(name, std::string("! Ic=2m\n# MHz S MA R 50\n") + kPoint); }
-  int Run(std::vector<std::string> args) {
+  std::string Device(const std::string& name) { return Write(name, std::string("! Ic=2m\n# MHz S MA R 50\n") + kPoint); }
+  int Series(std::vector<std::string> args) {
     args.insert(args.begin(), "--series");
-    return RunHeadlessMode(args, out_, err_);
+    return Run(args);
   }
   std::vector<std::string> FolderEntries() const {
     std::vector<std::string> names;
@@ -47,19 +32,12 @@ class SeriesCommandTest : public testing::Test {
     std::sort(names.begin(), names.end());
     return names;
   }
-  static std::string ReadFile(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  }
-
-  fs::path folder_;
-  std::ostringstream out_, err_;
 };
 
 TEST_F(SeriesCommandTest, PrintsTheTableOfTheSeriesInTheGivenOrder) {
   const std::string a = Device("a.s2p");
   const std::string b = Device("b.s2p");
-  ASSERT_EQ(Run({b, "--comment", "lot 7", a}), 0) << err_.str();
+  ASSERT_EQ(Series({b, "--comment", "lot 7", a}), 0) << err_.str();
   EXPECT_EQ(out_.str(), "Data derived by lioraira: lot 7\n"
                         "                  I/A        fT/Hz        fmax/Hz      MAG/dB       k       f(k>1)\n" +
                             b + kRow + a + kRow);
@@ -67,33 +45,26 @@ TEST_F(SeriesCommandTest, PrintsTheTableOfTheSeriesInTheGivenOrder) {
 }
 
 TEST_F(SeriesCommandTest, AppliesTheOptions) {
+  const std::string a = Write("a.s2p", std::string("! Id=2m\n") + kPoint);
+  const auto rowWith = [&](std::vector<std::string> args) {  // the table row of a under the options
+    args.push_back(a);
+    EXPECT_EQ(Series(args), 0) << err_.str();
+    const std::size_t at = out_.str().rfind(a);
+    return at == std::string::npos ? std::string() : out_.str().substr(at + a.size());
+  };
   // The frequency column read in GHz puts the point at 1 THz, above fo, so only f(k>1) is set;
   // j = 1000 * 2 mA / 4 = 0.5 mA per square micrometre.
-  const std::string a = Fixture("a.s2p", std::string("! Id=2m\n") + kPoint);
-  ASSERT_EQ(Run({"--multiplier", "GHz", "--x-axis", "ic", "--density", "--area", "4", a}), 0) << err_.str();
-  EXPECT_NE(out_.str().find(a + "     2.00m     0.000     0.000   0.000  0.0000     1.00T   500.00m\n"),
-            std::string::npos)
-      << out_.str();
-
-  out_.str("");
-  ASSERT_EQ(Run({"--fo", "900M", a}), 0) << err_.str();
-  EXPECT_NE(out_.str().find(a + "     2.00m     0.000     0.000   0.000  0.0000     1.00G\n"), std::string::npos)
-      << out_.str();
-
-  out_.str("");
-  ASSERT_EQ(Run({"--fmax-from-u", "--lgnd", "1n", a}), 0) << err_.str();
-  EXPECT_NE(out_.str().find(a + "     2.00m     2.67G     3.50G   6.021  1.2500     1.00G\n"), std::string::npos)
-      << out_.str();
-
-  out_.str("");
-  ASSERT_EQ(Run({"--with-lgnd", "--lgnd", "1n", a}), 0) << err_.str();
-  EXPECT_EQ(out_.str().find(a + kRow), std::string::npos) << out_.str();  // the inductance changes the row
+  EXPECT_EQ(rowWith({"--multiplier", "GHz", "--x-axis", "ic", "--density", "--area", "4"}),
+            "     2.00m     0.000     0.000   0.000  0.0000     1.00T   500.00m\n");
+  EXPECT_EQ(rowWith({"--fo", "900M"}), "     2.00m     0.000     0.000   0.000  0.0000     1.00G\n");
+  EXPECT_EQ(rowWith({"--fmax-from-u", "--lgnd", "1n"}), "     2.00m     2.67G     3.50G   6.021  1.2500     1.00G\n");
+  EXPECT_NE(rowWith({"--with-lgnd", "--lgnd", "1n"}), kRow);  // the inductance changes the row
 }
 
 TEST_F(SeriesCommandTest, TakesTheFirstFortyFilesAndRefusesTheNext) {
   std::vector<std::string> files;
   for (int i = 1; i <= 42; ++i) files.push_back(Device("d" + std::to_string(i) + ".s2p"));
-  ASSERT_EQ(Run(files), 0);
+  ASSERT_EQ(Series(files), 0);
   EXPECT_EQ(err_.str(), "Maximum of 40 files reached! Perform calculation to get the results.\n");
   const std::string text = out_.str();
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 42);
@@ -103,10 +74,10 @@ TEST_F(SeriesCommandTest, TakesTheFirstFortyFilesAndRefusesTheNext) {
 
 TEST_F(SeriesCommandTest, WritesTheOutputFileWhole) {
   const std::string a = Device("a.s2p");
-  ASSERT_EQ(Run({a}), 0);
+  ASSERT_EQ(Series({a}), 0);
   const std::string expected = out_.str();
-  const fs::path target = folder_ / "result.spa";
-  ASSERT_EQ(Run({"--out", target.string(), a}), 0) << err_.str();
+  const std::string target = Path("result.spa");
+  ASSERT_EQ(Series({"--out", target, a}), 0) << err_.str();
   EXPECT_EQ(ReadFile(target), expected);
   EXPECT_EQ(FolderEntries(), (std::vector<std::string>{"a.s2p", "result.spa"}));
   EXPECT_EQ(fs::status(target).permissions() & fs::perms::others_write, fs::perms::none);
@@ -115,58 +86,26 @@ TEST_F(SeriesCommandTest, WritesTheOutputFileWhole) {
 
 TEST_F(SeriesCommandTest, AFailedRunLeavesTheOutputFileAsItWas) {
   const std::string a = Device("a.s2p");
-  const std::string bad = Fixture("bad.s2p", "! Ic=1m\n1000 0.5 x 1 0 1 0 1 0\n");
-  const std::string target = Fixture("result.spa", "earlier result\n");
-  EXPECT_EQ(Run({"--out", target, a, bad}), 1);
+  const std::string bad = Write("bad.s2p", "! Ic=1m\n1000 0.5 x 1 0 1 0 1 0\n");
+  const std::string target = Write("result.spa", "earlier result\n");
+  EXPECT_EQ(Series({"--out", target, a, bad}), 1);
   EXPECT_NE(err_.str().find("File " + bad + ", line 2"), std::string::npos) << err_.str();
   EXPECT_EQ(ReadFile(target), "earlier result\n");
   EXPECT_EQ(FolderEntries(), (std::vector<std::string>{"a.s2p", "bad.s2p", "result.spa"}));
 
-  err_.str("");
-  EXPECT_EQ(Run({"--out", (folder_ / "no_such_folder" / "r.spa").string(), a}), 1);
+  EXPECT_EQ(Series({"--out", Path("no_such_folder/r.spa"), a}), 1);
   EXPECT_NE(err_.str().find("Cannot write"), std::string::npos) << err_.str();
   EXPECT_EQ(out_.str(), "");
 }
 
-struct UsageCase {
-  const char* name;
-  std::vector<std::string> args;
-  const char* message;  // a part of the message on standard error
-};
-
-void PrintTo(const UsageCase& c, std::ostream* os) { *os << c.name; }
-
-class SeriesUsageTest : public testing::TestWithParam<UsageCase> {};
-
-TEST_P(SeriesUsageTest, RefusesWithAMessage) {
+TEST(Help, NamesEveryModeAndOption) {
   std::ostringstream out, err;
-  std::vector<std::string> args = GetParam().args;
-  args.insert(args.begin(), "--series");
-  EXPECT_EQ(RunHeadlessMode(args, out, err), 1);
-  EXPECT_NE(err.str().find(GetParam().message), std::string::npos) << err.str();
-  EXPECT_EQ(out.str(), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Arguments, SeriesUsageTest,
-    testing::Values(UsageCase{"NoFiles", {}, "Please drag s2p file(s) to the program.\n"},
-                    UsageCase{"MissingFile", {"/nonexistent/a.s2p"}, "File /nonexistent/a.s2p cannot be read"},
-                    UsageCase{"UnknownOption", {"--fast", "a.s2p"}, "netrix --series: unknown option --fast"},
-                    UsageCase{"MissingValue", {"a.s2p", "--fo"}, "--fo needs a value"},
-                    UsageCase{"NumberWithoutDigits", {"--fo", "high", "a.s2p"}, "--fo needs a number"},
-                    UsageCase{"LgndWithoutDigits", {"--lgnd", "p", "a.s2p"}, "--lgnd needs a number"},
-                    UsageCase{"ZeroArea", {"--area", "0", "a.s2p"}, "--area is the transistor area"},
-                    UsageCase{"LowerCaseMultiplier", {"--multiplier", "mhz", "a.s2p"}, "--multiplier takes Hz, MHz or GHz"},
-                    UsageCase{"UnknownXAxis", {"--x-axis", "vce", "a.s2p"}, "--x-axis takes ic, id or fileno"}),
-    [](const testing::TestParamInfo<UsageCase>& info) { return std::string(info.param.name); });
-
-TEST(SeriesHelp, ListsTheModeAndEveryOption) {
-  const std::string usage = UsageText();
-  for (const char* option : {"--series [options] FILE...", "--fo TEXT", "--multiplier Hz|MHz|GHz", "--lgnd TEXT",
-                             "--with-lgnd", "--fmax-from-u", "--x-axis ic|id|fileno", "--area TEXT", "--density",
-                             "--comment TEXT", "--out PATH", "--figures FILE"}) {
-    EXPECT_NE(usage.find(option), std::string::npos) << option;
+  ASSERT_EQ(RunHeadlessMode({"--help"}, out, err), 0);
+  for (const char* text : {"--figures FILE", "--render VIEW --out PATH", "--render ft-fmax|k-mag|stability-limit",
+                           "--series [options] FILE...", "--multiplier Hz|MHz|GHz", "--x-axis ic|id|fileno"}) {
+    EXPECT_NE(out.str().find(text), std::string::npos) << text;
   }
+  EXPECT_EQ(RunHeadlessMode({"--no-such-mode"}, out, err), -1);
 }
 
 }  // namespace

@@ -1,19 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <filesystem>
-#include <fstream>
-#include <ostream>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "app/command_modes.h"
+#include "command_test.h"
 
 namespace app {
 namespace {
-
-namespace fs = std::filesystem;
 
 // One point at 1 GHz each, S11 = S22 = 0. First file, 1 mA: S21 = 2, S12 = 0.25, so by hand
 // k = 1.25, |h21| = 2 |S21| / (1 + S12 S21) = 2.667 (fT 2.667 GHz), MAG = 4 (fmax 2 GHz, 6.02 dB).
@@ -24,31 +18,19 @@ constexpr const char* kSecond = "! Ic=2m\n# MHz S MA R 50\n1000 0 0 4 0 0.25 0 0
 // Pictures of 400 x 300 pixels have the frame columns 48 .. 366 and rows 27 .. 263.
 const QRgb kGreenPixel = qRgb(0, 128, 0);
 
-class SeriesRenderTest : public testing::Test {
+class SeriesRenderTest : public CommandTest {
  protected:
   void SetUp() override {
-    const std::string test = testing::UnitTest::GetInstance()->current_test_info()->name();
-    folder_ = fs::path(testing::TempDir()) / ("series_render_" + test);
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
+    CommandTest::SetUp();
     files_ = {Write("first.s2p", kFirst), Write("second.s2p", kSecond)};
   }
-  void TearDown() override { fs::remove_all(folder_); }
-  std::string Write(const std::string& name, const std::string& content) {
-    const std::string path = (folder_ / name).string();
-    std::ofstream(path, std::ios::binary) << content;
-    return path;
-  }
-  std::string Out(const std::string& name) const { return (folder_ / name).string(); }
   // Renders the view at 400 x 300 with the extra options and returns the picture.
   QImage Render(const std::string& view, std::vector<std::string> options) {
-    const std::string path = Out(view + ".png");
+    const std::string path = Path(view + ".png");
     std::vector<std::string> args = {"--render", view, "--size", "400x300", "--out", path};
     args.insert(args.end(), options.begin(), options.end());
     args.insert(args.end(), files_.begin(), files_.end());
-    std::ostringstream out;
-    err_.str("");
-    EXPECT_EQ(RunHeadlessMode(args, out, err_), 0) << err_.str();
+    EXPECT_EQ(Run(args), 0) << err_.str();
     return QImage(QString::fromStdString(path)).convertToFormat(QImage::Format_RGB32);
   }
   static bool GreenIn(const QImage& image, int column, int top, int bottom) {
@@ -58,9 +40,7 @@ class SeriesRenderTest : public testing::Test {
     return false;
   }
 
-  fs::path folder_;
   std::vector<std::string> files_;
-  std::ostringstream err_;
 };
 
 // x 0 .. 3 mA, y 0 .. 5 GHz (4 GHz * 1.001 rounded up): 1 mA is column 154, 2 mA column 260;
@@ -78,10 +58,6 @@ TEST_F(SeriesRenderTest, SeriesOptionsReachTheGraph) {
   const QImage density = Render("ft-fmax", {"--density", "--area", "500"});
   EXPECT_EQ(density.pixel(175, 137), kGreenPixel);
   EXPECT_EQ(density.pixel(302, 74), kGreenPixel);
-  // File numbers 1 and 2 on an axis to 3 stand where 1 and 2 mA stood.
-  const QImage numbers = Render("ft-fmax", {"--x-axis", "fileno"});
-  EXPECT_EQ(numbers.pixel(154, 137), kGreenPixel);
-  EXPECT_NE(err_.str().find("might be errorness"), std::string::npos);  // no current is read then
   // Column 181 lies on the line from (154, 137) to (260, 74), at row 121.
   EXPECT_TRUE(GreenIn(Render("ft-fmax", {"--connect"}), 181, 120, 122));
 }
@@ -96,39 +72,6 @@ TEST_F(SeriesRenderTest, KMagPlotsTenTimesK) {
 // The first file is stable at its only point: f(k>1) = 1 GHz on an axis to 2 GHz, row 145.
 TEST_F(SeriesRenderTest, StabilityLimitPlotsTheLimit) {
   EXPECT_EQ(Render("stability-limit", {}).pixel(154, 145), kGreenPixel);
-}
-
-struct ErrorCase {
-  const char* name;
-  std::vector<std::string> args;  // after "--render ft-fmax"; "@" stands for a series file
-  const char* message;
-};
-void PrintTo(const ErrorCase& c, std::ostream* os) { *os << c.name; }
-
-class SeriesRenderErrorTest : public SeriesRenderTest, public testing::WithParamInterface<ErrorCase> {};
-
-TEST_P(SeriesRenderErrorTest, ExitsWithOneAndSaysWhatToDo) {
-  std::vector<std::string> args = {"--render", "ft-fmax"};
-  for (const std::string& a : GetParam().args) args.push_back(a == "@" ? files_.front() : a);
-  std::ostringstream out;
-  EXPECT_EQ(RunHeadlessMode(args, out, err_), 1);
-  EXPECT_NE(err_.str().find(GetParam().message), std::string::npos) << err_.str();
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, SeriesRenderErrorTest,
-    testing::Values(ErrorCase{"no_out", {"@"}, "--out PATH is missing"},
-                    ErrorCase{"no_file", {"--out", "x.png"}, "name the files of the bias series"},
-                    ErrorCase{"bad_size", {"--size", "9x9", "--out", "x.png", "@"}, "--size needs WIDTHxHEIGHT"},
-                    ErrorCase{"size_without_value", {"--out", "x.png", "@", "--size"}, "--size needs a value"},
-                    ErrorCase{"option_of_the_file_views", {"--chart", "z", "--out", "x.png", "@"}, "unknown option --chart"},
-                    ErrorCase{"bad_series_option", {"--fo", "high", "--out", "x.png", "@"}, "--fo needs a number"},
-                    ErrorCase{"unknown_extension", {"--out", "x.tif", "@"}, "end the name in .png"},
-                    ErrorCase{"unreadable_file", {"--out", "x.png", "/nonexistent/a.s2p"}, "cannot be read"}),
-    [](const testing::TestParamInfo<ErrorCase>& info) { return std::string(info.param.name); });
-
-TEST(SeriesRenderUsage, HelpNamesTheSeriesViews) {
-  EXPECT_NE(UsageText().find("netrix --render ft-fmax|k-mag|stability-limit"), std::string::npos);
 }
 
 }  // namespace

@@ -30,28 +30,19 @@ INSTANTIATE_TEST_SUITE_P(
     Cases, RoundingTest,
     testing::Values(
         RoundCase{"zero", NiceStep, 0, 0}, RoundCase{"exact one", NiceStep, 1, 1},
-        RoundCase{"just above one", NiceStep, 1.0000001, 2}, RoundCase{"two", NiceStep, 2, 2},
-        RoundCase{"2 to 5", NiceStep, 3, 5}, RoundCase{"exact five", NiceStep, 5, 5},
-        RoundCase{"above five", NiceStep, 5.01, 10}, RoundCase{"below one", NiceStep, 0.37, 0.5},
-        RoundCase{"5 to 10", NiceStep, 7.1, 10}, RoundCase{"hundreds", NiceStep, 120, 200},
+        RoundCase{"just above one", NiceStep, 1.0000001, 2}, RoundCase{"exact five", NiceStep, 5, 5},
+        RoundCase{"below one", NiceStep, 0.37, 0.5}, RoundCase{"hundreds", NiceStep, 120, 200},
         RoundCase{"negative", NiceStep, -0.012, -0.02}, RoundCase{"gigahertz", NiceStep, 3.3e9, 5e9},
-        RoundCase{"up zero", RoundUpOneDigit, 0, 0}, RoundCase{"up", RoundUpOneDigit, 2.3, 3},
-        RoundCase{"up whole", RoundUpOneDigit, 2.0, 2}, RoundCase{"up tolerance", RoundUpOneDigit, 2.000005, 2},
-        RoundCase{"up to ten", RoundUpOneDigit, 9.5, 10}, RoundCase{"up small", RoundUpOneDigit, 0.042, 0.05},
-        RoundCase{"up negative", RoundUpOneDigit, -230, -300}, RoundCase{"up decade", RoundUpOneDigit, 1e9, 1e9},
-        RoundCase{"up above decade", RoundUpOneDigit, 1.2e9, 2e9},
-        RoundCase{"up B", RoundUpOneDigitB, -2.3, -3},
-        RoundCase{"down zero", RoundDownOneDigit, 0, 0}, RoundCase{"down", RoundDownOneDigit, 3.7, 3},
-        RoundCase{"down whole steps below", RoundDownOneDigit, 3.0, 2},
+        RoundCase{"up", RoundUpOneDigit, 2.3, 3}, RoundCase{"up whole", RoundUpOneDigit, 2.0, 2},
+        RoundCase{"up tolerance", RoundUpOneDigit, 2.000005, 2}, RoundCase{"up to ten", RoundUpOneDigit, 9.5, 10},
+        RoundCase{"up decade", RoundUpOneDigit, 1e9, 1e9}, RoundCase{"up B", RoundUpOneDigitB, -2.3, -3},
+        RoundCase{"down", RoundDownOneDigit, 3.7, 3}, RoundCase{"down whole steps below", RoundDownOneDigit, 3.0, 2},
         RoundCase{"down within 1e-4", RoundDownOneDigit, 3.00005, 2},
         RoundCase{"down beyond 1e-4", RoundDownOneDigit, 3.0002, 3},
-        RoundCase{"down one to zero", RoundDownOneDigit, 1.0, 0}, RoundCase{"down hundred", RoundDownOneDigit, 100, 0},
-        RoundCase{"down 250", RoundDownOneDigit, 250, 200}, RoundCase{"down 300", RoundDownOneDigit, 300, 200},
-        RoundCase{"down negative", RoundDownOneDigit, -3.7, -3},
+        RoundCase{"down one to zero", RoundDownOneDigit, 1.0, 0},
         RoundCase{"tight", RoundDownOneDigitTight, 3.7, 3}, RoundCase{"tight whole", RoundDownOneDigitTight, 3.0, 3},
         RoundCase{"tight just below", RoundDownOneDigitTight, 2.999995, 3},
-        RoundCase{"tight tie to even", RoundDownOneDigitTight, 2.99999, 2},
-        RoundCase{"tight milli", RoundDownOneDigitTight, 0.0037, 0.003}));
+        RoundCase{"tight tie to even", RoundDownOneDigitTight, 2.99999, 2}));
 
 TEST(Rounding, NonFiniteValuesPassThrough) {
   const double inf = std::numeric_limits<double>::infinity();

@@ -2,7 +2,8 @@
 
 // Two-port relations as textbooks write them, in std::complex, to check the program's own
 // arithmetic against an independent route.
-#include <array>
+#include <gtest/gtest.h>
+
 #include <complex>
 
 #include "numerics/complex_value.h"
@@ -23,8 +24,17 @@ inline C Polar(long double magnitude, long double degrees) {
   return std::polar(magnitude, degrees * 3.14159265358979323846L / 180);
 }
 
-inline M2 FromMatrix(const numerics::Matrix2& m) {
-  return {FromValue(m.m11), FromValue(m.m12), FromValue(m.m21), FromValue(m.m22)};
+// Tolerances grow with the size of the expected value.
+inline void ExpectNear(const numerics::ComplexValue& actual, C expected, double relative = 1e-12) {
+  const double scale = 1 + static_cast<double>(std::abs(expected));
+  EXPECT_NEAR(numerics::Re(actual), static_cast<double>(expected.real()), relative * scale);
+  EXPECT_NEAR(numerics::Im(actual), static_cast<double>(expected.imag()), relative * scale);
+}
+inline void ExpectMatrixNear(const numerics::Matrix2& actual, const M2& expected, double relative = 1e-12) {
+  ExpectNear(actual.m11, expected.a11, relative);
+  ExpectNear(actual.m12, expected.a12, relative);
+  ExpectNear(actual.m21, expected.a21, relative);
+  ExpectNear(actual.m22, expected.a22, relative);
 }
 
 inline M2 Multiply(const M2& x, const M2& y) {
