@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "diagram/current.h"
 #include "diagram/scaling.h"
 #include "picture.h"
 
@@ -32,12 +33,6 @@ TEST_F(CurveTest, APointAboveTheRangeBreaksTheCurveInTwo) {
   EXPECT_EQ(ColourAt(image, (x1 + x2) / 2, YToPixel(d_, 2.5)), kBlack);
   EXPECT_EQ(ColourAt(image, (x4 + x5) / 2, YToPixel(d_, 2.5)), kBlack);
   EXPECT_EQ(CountNotWhite(image, QRect(QPoint(x2 + 1, 0), QPoint(x4 - 1, 299))), 0);
-}
-
-TEST_F(CurveTest, APointOnTheFrameEdgeIsNotJoinedEither) {
-  const std::vector<double> x = {0, 5, 10}, y = {5, 5, 5};
-  DrawCurve(d_, x, y, 3, picture_.canvas());
-  EXPECT_EQ(CountNotWhite(picture_.Finish(), QRect(0, 0, 400, 300)), 0);
 }
 
 TEST_F(CurveTest, CurvesStartAtFirstIndex) {
@@ -93,6 +88,31 @@ TEST_F(CurveTest, TheTextStartsOrEndsAtTheFirstPoint) {
   EXPECT_GT(CountNotWhite(image, QRect(XToPixel(d_, 2) + 1, row2 + 1, 25, 10)), 10);
   EXPECT_GT(CountNotWhite(image, QRect(XToPixel(d_, 8) - 30, row8 + 1, 29, 10)), 10);
   EXPECT_EQ(CountNotWhite(image, QRect(XToPixel(d_, 2) - 30, row2 + 1, 29, 10)), 0);
+}
+
+// The argument-free entry points pass their arguments on in the order the names give them.
+TEST(CurrentDiagram, EntryPointsWorkOnTheProgramWideState) {
+  test::Picture p(400, 300);
+  SetAxisModes(AxisMode::Linear, AxisMode::Linear);
+  SetupAxes(p.canvas(), 10, 0, 5, -5);  // xMax, xMin, yMax, yMin
+  const Diagram& d = CurrentDiagram();
+  EXPECT_EQ(d.width, 400);
+  EXPECT_EQ(XToPixel(10), 366);
+  EXPECT_EQ(XToPixel(0), 48);
+  EXPECT_EQ(YToPixel(5), 27);
+  EXPECT_EQ(YToPixel(-5), 263);
+  SetAxisCrossing(3, 9);
+  EXPECT_EQ(d.xCross, 3);
+  EXPECT_EQ(d.yCross, -5);
+  const std::vector<double> x = {1, 7.3}, y = {-1.5, 3};
+  AutoscaleX(x, 2);
+  AutoscaleY(y, 2);
+  EXPECT_EQ(d.xMax, 8);
+  EXPECT_EQ(d.yMin, -2);
+  SetupAxes(p.canvas(), d.xMax, d.xMin, d.yMax, d.yMin);
+  DrawCurve(x, y, 2, p.canvas());
+  const QImage& image = p.Finish();
+  EXPECT_TRUE(test::HasColourNear(image, XToPixel(4.15), YToPixel(0.75), 1, kBlack));
 }
 
 }  // namespace

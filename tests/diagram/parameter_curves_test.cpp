@@ -2,9 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
+#include <array>
+#include <cmath>
 #include <memory>
+#include <vector>
 
 #include "diagram/scaling.h"
+#include "diagram/spline.h"
 #include "numerics/complex_value.h"
 #include "picture.h"
 
@@ -24,17 +30,15 @@ TEST(ParameterLabel, LongAndShortForms) {
   EXPECT_EQ(ParameterLabel(-1, true), "");
 }
 
-// A polar diagram of -1 .. 1 at 768 x 576 and a data set whose four parameters lie apart.
+// A polar diagram of -1 .. 1 at 768 x 576 and ten points whose four parameters lie apart.
 class ParameterCurvesTest : public testing::Test {
  protected:
   ParameterCurvesTest() : set_(std::make_unique<numerics::TwoPortDataSet>()) {
     SetAxisModes(d_, AxisMode::Polar, AxisMode::Polar);
     SetupAxes(d_, 768, 576, 1, -1, 1, -1);
     SetAxisCrossing(d_, 0, 0);
-  }
-  void Fill(int points) {
-    set_->pointCount = points;
-    for (int i = 0; i < points; ++i) {
+    set_->pointCount = 10;
+    for (int i = 0; i < 10; ++i) {
       const double angle = -10.0 * i;
       numerics::SParameters& p = set_->points[static_cast<std::size_t>(i)];
       p.s[0][0] = numerics::MakePolar(0.6, angle);
@@ -57,8 +61,9 @@ class ParameterCurvesTest : public testing::Test {
 };
 
 TEST_F(ParameterCurvesTest, DrawsTheChosenParameterOnly) {
-  Fill(10);
-  Draw(kParameterS22, {});
+  ParameterCurveOptions options;
+  options.markPoints = false;  // so that the curve itself must pass the measured point
+  Draw(kParameterS22, options);
   const QImage& image = picture_.Finish();
   EXPECT_TRUE(RedNear(image, 0.9, 0));
   EXPECT_TRUE(RedNear(image, 0.9 * std::cos(-0.7), 0.9 * std::sin(-0.7)));  // -40 degrees, a measured point
@@ -67,7 +72,6 @@ TEST_F(ParameterCurvesTest, DrawsTheChosenParameterOnly) {
 }
 
 TEST_F(ParameterCurvesTest, MagnificationScalesBothParts) {
-  Fill(10);
   ParameterCurveOptions options;
   options.magnification = 10;
   Draw(kParameterS12, options);
@@ -77,7 +81,7 @@ TEST_F(ParameterCurvesTest, MagnificationScalesBothParts) {
 }
 
 TEST_F(ParameterCurvesTest, ASinglePointIsItsLabelAlone) {
-  Fill(1);
+  set_->pointCount = 1;
   Draw(kParameterS21, {});
   const QImage& image = picture_.Finish();
   const int x = XToPixel(d_, -0.3), y = YToPixel(d_, 0);
@@ -87,21 +91,91 @@ TEST_F(ParameterCurvesTest, ASinglePointIsItsLabelAlone) {
 }
 
 TEST_F(ParameterCurvesTest, UnknownParametersAndHiddenFilesDrawNothing) {
-  Fill(10);
   Draw(7, {});
   const LoadedFile hidden{set_.get(), "dut.s2p", false, kRed};
   DrawParameterCurves(d_, picture_.canvas(), std::span(&hidden, 1), kParameterS11, {});
   EXPECT_EQ(CountNotWhite(picture_.Finish(), QRect(0, 0, 768, 576)), 0);
 }
 
-TEST_F(ParameterCurvesTest, TheSplineFollowsTheLocusBetweenMeasuredPoints) {
-  Fill(10);  // nine intervals of 10 degrees: 300 div 9 = 33 new points each
-  ParameterCurveOptions options;
-  options.markPoints = false;
-  Draw(kParameterS22, options);
-  const QImage& image = picture_.Finish();
-  const double between = -0.5 * 10 / 57.29577951308232;  // -5 degrees, halfway to the second point
-  EXPECT_TRUE(RedNear(image, 0.9 * std::cos(between), 0.9 * std::sin(between)));
+using Samples = std::array<double, kSplineCapacity>;
+
+struct Curve {
+  Samples x{}, y{};
+  int lastIndex = 0;
+};
+
+Curve Make(const std::vector<double>& x, const std::vector<double>& y) {
+  Curve c;
+  std::copy(x.begin(), x.end(), c.x.begin());
+  std::copy(y.begin(), y.end(), c.y.begin());
+  c.lastIndex = static_cast<int>(x.size()) - 1;
+  return c;
+}
+
+struct CountCase {
+  const char* name;
+  int lastIndex, maxPoints, expected;
+};
+void PrintTo(const CountCase& c, std::ostream* os) { *os << c.name; }
+
+class SplineCountTest : public testing::TestWithParam<CountCase> {};
+
+TEST_P(SplineCountTest, CutsEveryIntervalIntoMaxPointsDivLastIndexParts) {
+  const CountCase& c = GetParam();
+  std::vector<double> x, y;
+  for (int i = 0; i <= c.lastIndex; ++i) {
+    x.push_back(i);
+    y.push_back(i * 0.5);
+  }
+  Curve curve = Make(x, y);
+  SplineResample(curve.x, curve.y, curve.lastIndex, false, false, c.maxPoints);
+  EXPECT_EQ(curve.lastIndex, c.expected) << c.name;
+  EXPECT_DOUBLE_EQ(curve.x[static_cast<std::size_t>(curve.lastIndex)], c.lastIndex) << c.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, SplineCountTest,
+                         testing::Values(CountCase{"three is never splined", 3, 300, 3},
+                                         CountCase{"more than 300 asked", 4, 1000, 300},
+                                         CountCase{"k below two", 200, 300, 200},
+                                         CountCase{"k exactly two", 150, 300, 300},
+                                         CountCase{"uneven division", 7, 300, 294}));
+
+TEST(Spline, ReproducesAStraightLine) {
+  Curve c = Make({0, 1, 3, 4, 7}, {1, 3, 7, 9, 15});  // y = 2x + 1 at uneven x
+  SplineResample(c.x, c.y, c.lastIndex, false, false, 300);
+  ASSERT_EQ(c.lastIndex, 300);
+  for (int i = 0; i <= c.lastIndex; ++i) {
+    const auto k = static_cast<std::size_t>(i);
+    EXPECT_NEAR(c.y[k], 2 * c.x[k] + 1, 1e-12) << i;
+  }
+}
+
+TEST(Spline, MatchesANaturalSplineWorkedOutByHand) {
+  // Knots 0..4 with a single bump at 2. The second derivatives solve
+  // 4 M1 + M2 = 6, M1 + 4 M2 + M3 = -12, M2 + 4 M3 = 6: M1 = M3 = 18/7, M2 = -30/7, so
+  // S(0.5) = M1 / 48 - 0.5 M1 / 6 = -9/56 and S(1.5) = (M1 + M2) / 48 + 0.5 (1 - (M1 + M2) / 6) = 17/28.
+  Curve c = Make({0, 1, 2, 3, 4}, {0, 0, 1, 0, 0});
+  SplineResample(c.x, c.y, c.lastIndex, false, false, 8);
+  ASSERT_EQ(c.lastIndex, 8);
+  EXPECT_DOUBLE_EQ(c.x[1], 0.5);
+  EXPECT_NEAR(c.y[1], -9.0 / 56, 1e-15);
+  EXPECT_NEAR(c.y[3], 17.0 / 28, 1e-15);
+  EXPECT_NEAR(c.y[5], 17.0 / 28, 1e-15);  // symmetric
+  EXPECT_EQ(c.y[4], 1);                   // the knots stay
+  EXPECT_EQ(c.y[8], 0);
+}
+
+TEST(Spline, LogXSpacesTheNewPointsGeometrically) {
+  // y = ln x is a straight line in ln x, so the spline keeps it.
+  Curve c = Make({1e6, 1e7, 1e8, 1e9, 1e10}, {});
+  for (int i = 0; i <= 4; ++i) c.y[static_cast<std::size_t>(i)] = std::log(c.x[static_cast<std::size_t>(i)]);
+  SplineResample(c.x, c.y, c.lastIndex, true, false, 20);
+  ASSERT_EQ(c.lastIndex, 20);
+  EXPECT_NEAR(c.x[1], 1e6 * std::pow(10.0, 0.2), 1e-3);
+  for (int i = 0; i <= 20; ++i) {
+    const auto k = static_cast<std::size_t>(i);
+    EXPECT_NEAR(c.y[k], std::log(c.x[k]), 1e-9) << i;
+  }
 }
 
 }  // namespace
