@@ -13,43 +13,29 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class DroppedFilesTest : public testing::Test {
- protected:
-  void SetUp() override {
-    root_ = fixtures::FixturePath("drop");
-    fs::remove_all(root_);
-    fs::create_directories(root_ / "series" / "deeper");
-    fs::create_directories(root_ / "empty");
-  }
-  std::string Touch(const fs::path& relative) {
-    const fs::path path = root_ / relative;
-    std::ofstream(path) << "! Ic=1m\n";
-    return path.string();
-  }
-  std::string At(const fs::path& relative) const { return (root_ / relative).string(); }
-  fs::path root_;
-};
-
-TEST_F(DroppedFilesTest, AFolderGivesItsOwnSeriesFilesInNameOrderAtItsPlace) {
-  const std::string first = Touch("z_first.s2p");
-  const std::string b = Touch("series/b_5mA.S2P");
-  const std::string a = Touch("series/a_1mA.s2p");
-  const std::string c = Touch("series/c_9mA.s2p");
-  Touch("series/notes.txt");
-  Touch("series/deeper/d.s2p");
-  const std::string last = Touch("a_last.s2p");
-  const DroppedFiles dropped = SortOutDroppedPaths({first, At("series"), last});
+// A folder gives its own .s2p files (any case, not those of subfolders) in name order at its
+// place; other files and folders without series files are refused.
+TEST(DroppedFiles, SortsOutSeriesFilesAndRefusesTheRest) {
+  const fs::path root = fixtures::FixturePath("drop");
+  fs::remove_all(root);
+  fs::create_directories(root / "series" / "deeper");
+  fs::create_directories(root / "empty");
+  const auto at = [&](const char* relative) { return (root / relative).string(); };
+  const auto touch = [&](const char* relative) {
+    std::ofstream(root / relative) << "! Ic=1m\n";
+    return at(relative);
+  };
+  const std::string first = touch("z_first.s2p");
+  const std::string b = touch("series/b_5mA.S2P");
+  const std::string a = touch("series/a_1mA.s2p");
+  const std::string c = touch("series/c_9mA.s2p");
+  touch("series/notes.txt");
+  touch("series/deeper/d.s2p");
+  const std::string text = touch("one.s1p");
+  const std::string last = touch("a_last.s2p");
+  const DroppedFiles dropped = SortOutDroppedPaths({first, at("series"), text, at("empty"), last});
   EXPECT_EQ(dropped.series, (std::vector<std::string>{first, a, b, c, last}));
-  EXPECT_TRUE(dropped.refused.empty());
-}
-
-TEST_F(DroppedFilesTest, OtherFilesAndFoldersWithoutSeriesFilesAreRefused) {
-  const std::string text = Touch("readme.txt");
-  const std::string kept = Touch("bjt.s2p");
-  const std::string touchstone1 = Touch("one.s1p");
-  const DroppedFiles dropped = SortOutDroppedPaths({text, kept, At("empty"), touchstone1});
-  EXPECT_EQ(dropped.series, std::vector<std::string>{kept});
-  EXPECT_EQ(dropped.refused, (std::vector<std::string>{text, At("empty"), touchstone1}));
+  EXPECT_EQ(dropped.refused, (std::vector<std::string>{text, at("empty")}));
 }
 
 TEST(RefusedFilesMessage, NamesEveryRefusedPath) {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <optional>
-#include <ostream>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "mainwin/engine/series_evaluation.h"
@@ -36,30 +36,21 @@ FileFigures Evaluate(const std::string& content, const SeriesSettings& settings)
   return file.figures;
 }
 
-std::string ThreePointFile() {
-  return "! Ic=10m\n# GHz S MA R 50\n" + DataLine("1.8", kPoints[0]) + DataLine("2.0", kPoints[1]) +
-         DataLine("2.2", kPoints[2]);
-}
-
 struct SelectionCase {
   const char* name;
   double fo;
   int point;  // index into kPoints of the point kept, -1 for none
 };
 
-void PrintTo(const SelectionCase& c, std::ostream* os) { *os << c.name; }
-
 class AnalysisPointTest : public testing::TestWithParam<SelectionCase> {};
 
 TEST_P(AnalysisPointTest, KeepsTheLastPointAtOrBelowFo) {
   const SelectionCase& c = GetParam();
-  const FileFigures f = Evaluate(ThreePointFile(), Settings(c.fo, 1e9));
+  const std::string content = "! Ic=10m\n# GHz S MA R 50\n" + DataLine("1.8", kPoints[0]) + DataLine("2.0", kPoints[1]) +
+                              DataLine("2.2", kPoints[2]);
+  const FileFigures f = Evaluate(content, Settings(c.fo, 1e9));
   if (c.point < 0) {
-    EXPECT_EQ(f.fT, 0);
-    EXPECT_EQ(f.fmax, 0);
-    EXPECT_EQ(f.magDb, 0);
-    EXPECT_EQ(f.k, 0);
-    EXPECT_EQ(f.s21, 0);
+    for (const double value : {f.fT, f.fmax, f.magDb, f.k, f.s21}) EXPECT_EQ(value, 0);
     return;
   }
   const fixtures::M2 s = kPoints[c.point].Matrix();
@@ -72,8 +63,7 @@ TEST_P(AnalysisPointTest, KeepsTheLastPointAtOrBelowFo) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Fo, AnalysisPointTest,
-                         testing::Values(SelectionCase{"ExactlyAtAPoint", 2.0e9, 1},
-                                         SelectionCase{"BetweenPoints", 2.1e9, 1},
+                         testing::Values(SelectionCase{"NearerToTheNextPoint", 2.19e9, 1},
                                          SelectionCase{"AtTheFirstPoint", 1.8e9, 0},
                                          SelectionCase{"AboveAll", 20e9, 2},
                                          SelectionCase{"BelowTheFirstPoint", 1.7e9, -1}),
@@ -121,57 +111,34 @@ TEST(SeriesEvaluation, InsertsTheGroundInductanceIntoTheCommonLead) {
   EXPECT_NEAR(with.k, textbook::Rollett(s), 1e-10);
   EXPECT_NEAR(with.magDb, 10 * std::log10(fixtures::BestGain(s)), 1e-9);
   EXPECT_NEAR(with.s21, std::abs(s.a21), 1e-10);
-
-  settings.withLgnd = false;
-  const FileFigures without = Evaluate(content, settings);
-  EXPECT_GT(std::fabs(with.fT - without.fT) / without.fT, 0.01);  // the inductance matters here
 }
 
 // S11 for a wanted k when S12 = 0.1, S21 = 2, S22 = 0: k = (1.04 - |S11|^2) / 0.4.
 PolarPoint PointWithK(double k) { return {std::sqrt(1.04 - 0.4 * k), 0, 2, 0, 0.1, 0, 0, 0}; }
 
-struct LimitCase {
-  const char* name;
-  std::vector<double> k;  // at 1, 2, 3 ... GHz
-  double fk;
-};
-
-void PrintTo(const LimitCase& c, std::ostream* os) { *os << c.name; }
-
-class StabilityLimitTest : public testing::TestWithParam<LimitCase> {};
-
-TEST_P(StabilityLimitTest, IsTheStartOfTheLastStableRun) {
-  std::string content = "! Ic=1m\n";
-  for (std::size_t i = 0; i < GetParam().k.size(); ++i) content += DataLine(std::to_string(i + 1), PointWithK(GetParam().k[i]));
-  EXPECT_EQ(Evaluate(content, Settings(2e9, 1e9)).fk, GetParam().fk);
+TEST(SeriesEvaluation, TheStabilityLimitIsTheStartOfTheLastStableRun) {
+  // k at 1, 2, 3 ... GHz and the limit: stable again after a dip, stable everywhere, ends unstable.
+  const std::pair<std::vector<double>, double> cases[] = {
+      {{0.8, 1.1, 1.2, 0.9, 1.05, 1.3}, 5e9}, {{1.1, 1.2, 1.5}, 1e9}, {{1.2, 1.3, 0.9}, 0}};
+  for (const auto& [k, fk] : cases) {
+    std::string content = "! Ic=1m\n";
+    for (std::size_t i = 0; i < k.size(); ++i) content += DataLine(std::to_string(i + 1), PointWithK(k[i]));
+    EXPECT_EQ(Evaluate(content, Settings(2e9, 1e9)).fk, fk) << content;
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    KSequences, StabilityLimitTest,
-    testing::Values(LimitCase{"StableAgainAfterADip", {0.8, 1.1, 1.2, 0.9, 1.05, 1.3}, 5e9},
-                    LimitCase{"StableEverywhere", {1.1, 1.2, 1.5}, 1e9},
-                    LimitCase{"EndsUnstable", {1.2, 1.3, 0.9}, 0},
-                    LimitCase{"NeverStable", {0.5, 0.7}, 0},
-                    LimitCase{"StableOnlyAtTheLastPoint", {0.9, 0.95, 1.01}, 3e9}),
-    [](const testing::TestParamInfo<LimitCase>& info) { return std::string(info.param.name); });
-
+// Comment, option, blank and word lines are skipped; text behind the eight numbers is ignored
+// (a vendor file's gain column behind a "!"), and the last line needs no line break.
 TEST(SeriesEvaluation, ReadsFrequenciesWithTheMultiplierAndSkipsOtherLines) {
-  const std::string content = "! Ic=2m\n# MHz S MA R 50\n! Freq S11 S21\n\n" + DataLine("1000", kPoints[0]) +
-                              "! noise parameters follow in other files\n" + DataLine("   2000", kPoints[1]) +
-                              "Freq 1 2 3\n" + DataLine("3000", kPoints[2]);
-  const FileFigures f = Evaluate(content, Settings(2.5e9, 1e6));
+  std::string first = DataLine("1000", kPoints[0]);
+  first.insert(first.size() - 1, " !    43.2");
+  std::string last = DataLine("3000", kPoints[2]);
+  last.pop_back();
+  const std::string content = "! Ic=2m\n# MHz S MA R 50\n! Freq S11 S21\n\n" + first + "Freq 1 2 3\n" +
+                              DataLine("   2000", kPoints[1]) + last;
+  const FileFigures f = Evaluate(content, Settings(3.5e9, 1e6));
   EXPECT_EQ(f.current, 2e-3);
-  EXPECT_NEAR(f.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e9L), 1, 1e-12);
-}
-
-TEST(SeriesEvaluation, ReadsTheLastLineWithoutALineBreakAndIgnoresTextAfterTheNumbers) {
-  std::string unstable = DataLine("1", PointWithK(0.9));
-  unstable.insert(unstable.size() - 1, " !    43.2");  // a vendor file's gain column behind a "!"
-  std::string lastLine = DataLine("2", PointWithK(1.2));
-  lastLine.pop_back();
-  const FileFigures f = Evaluate("! Ic=1m\n" + unstable + lastLine, Settings(5e9, 1e9));
-  EXPECT_EQ(f.fk, 2e9);
-  EXPECT_NEAR(f.k, 1.2, 1e-12);
+  EXPECT_NEAR(f.fT / (fixtures::CurrentGain(kPoints[2].Matrix(), kZ0) * 3e9L), 1, 1e-12);
 }
 
 TEST(SeriesEvaluation, StopsAtTheNoiseParameterBlock) {
@@ -180,51 +147,33 @@ TEST(SeriesEvaluation, StopsAtTheNoiseParameterBlock) {
                               DataLine("2000", kPoints[1]) + "! noise\n500 1.2 0.4 30 0.3\n900 1.3 0.38 35 0.28\n";
   const FileFigures f = Evaluate(content, Settings(2.5e9, 1e6));
   EXPECT_NEAR(f.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e9L), 1, 1e-12);
-  EXPECT_NEAR(f.k, textbook::Rollett(kPoints[1].Matrix()), 1e-12);
 }
 
-struct CurrentChoiceCase {
-  const char* name;
-  const char* comments;
-  XAxisChoice choice;
-  double current;
-};
-
-void PrintTo(const CurrentChoiceCase& c, std::ostream* os) { *os << c.name; }
-
-class CurrentChoiceTest : public testing::TestWithParam<CurrentChoiceCase> {};
-
-TEST_P(CurrentChoiceTest, ReadsTheCurrentOnlyForTheIcChoice) {
-  SeriesSettings settings = Settings(2e9, 1e6);
-  settings.xAxis = GetParam().choice;
-  EXPECT_EQ(Evaluate(std::string(GetParam().comments) + DataLine("1000", kPoints[0]), settings).current, GetParam().current);
+// Id is read only for the Ic choice, "#" lines count as comments, and a later line overwrites.
+TEST(SeriesEvaluation, ReadsTheCurrentOnlyForTheIcChoice) {
+  const std::tuple<const char*, XAxisChoice, double> cases[] = {{"! Id=2m\n", XAxisChoice::CurrentIc, 2e-3},
+                                                                {"! Id=2m\n", XAxisChoice::CurrentId, 0},
+                                                                {"# ic=1.5m\n", XAxisChoice::CurrentIc, 1.5e-3},
+                                                                {"! Ic=1m\n! Ic=3m\n", XAxisChoice::CurrentIc, 3e-3}};
+  for (const auto& [comments, choice, current] : cases) {
+    SeriesSettings settings = Settings(2e9, 1e6);
+    settings.xAxis = choice;
+    EXPECT_EQ(Evaluate(comments + DataLine("1000", kPoints[0]), settings).current, current) << comments;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Choices, CurrentChoiceTest,
-    testing::Values(CurrentChoiceCase{"IdWithIcChoice", "! Id=2m\n", XAxisChoice::CurrentIc, 2e-3},
-                    CurrentChoiceCase{"IdWithIdChoice", "! Id=2m\n", XAxisChoice::CurrentId, 0},
-                    CurrentChoiceCase{"IcWithFileNumber", "! Ic=2m\n", XAxisChoice::FileNumber, 0},
-                    CurrentChoiceCase{"HashLine", "# ic=1.5m\n", XAxisChoice::CurrentIc, 1.5e-3},
-                    CurrentChoiceCase{"LaterLineOverwrites", "! Ic=1m\n! Ic=3m\n", XAxisChoice::CurrentIc, 3e-3},
-                    CurrentChoiceCase{"OptionLineKeepsIt", "! Ic=4m\n# MHz S MA R 50\n", XAxisChoice::CurrentIc, 4e-3}),
-    [](const testing::TestParamInfo<CurrentChoiceCase>& info) { return std::string(info.param.name); });
 
 TEST(SeriesEvaluation, ReportsAFileWithoutCurrentAndKeepsItsValues) {
   const std::string path = fixtures::WriteFixture("no_current.s2p", "! Vce=3V\n" + DataLine("1000", kPoints[0]));
-  const std::string good = fixtures::WriteFixture("good.s2p", "! Ic=5m\n" + DataLine("1000", kPoints[0]));
   SeriesList list;
-  list.Append({path, good});
+  list.Append({path});
   SeriesArrays arrays;
   const SeriesEvaluation result = EvaluateSeries(list, Settings(2e9, 1e6), arrays);
   EXPECT_TRUE(result.completed);
   EXPECT_EQ(result.messages,
             std::vector<std::string>{"Possibly the file " + path + " might be errorness (e.g. no Ic specified)."});
-  ASSERT_EQ(arrays.size(), 2U);
+  ASSERT_EQ(arrays.size(), 1U);
   EXPECT_EQ(arrays[0].current, 0);
-  EXPECT_GT(arrays[0].fT, 0);
-  EXPECT_EQ(arrays[1].current, 5e-3);
-  EXPECT_EQ(arrays[0].fT, arrays[1].fT);
+  EXPECT_NEAR(arrays[0].fT / (fixtures::CurrentGain(kPoints[0].Matrix(), kZ0) * 1e9L), 1, 1e-12);
 }
 
 TEST(SeriesEvaluation, AnEmptyListAsksForFiles) {
@@ -239,10 +188,8 @@ TEST(SeriesEvaluation, AnEmptyListAsksForFiles) {
 struct FailureCase {
   const char* name;
   const char* content;  // nullptr: the file does not exist; empty: a folder
-  const char* expected;  // a part of the last message
+  const char* expected;  // what the last message says behind the file's path
 };
-
-void PrintTo(const FailureCase& c, std::ostream* os) { *os << c.name; }
 
 class UnreadableFileTest : public testing::TestWithParam<FailureCase> {};
 
@@ -258,18 +205,17 @@ TEST_P(UnreadableFileTest, EndsTheEvaluationNamingTheFileAndKeepsTheArrays) {
   const SeriesEvaluation result = EvaluateSeries(list, Settings(2e9, 1e6), arrays);
   EXPECT_FALSE(result.completed);
   ASSERT_EQ(result.messages.size(), 2U);  // the first file's missing current, then the failure
-  EXPECT_NE(result.messages[1].find("File " + bad), std::string::npos) << result.messages[1];
-  EXPECT_NE(result.messages[1].find(GetParam().expected), std::string::npos) << result.messages[1];
+  EXPECT_NE(result.messages[1].find("File " + bad + GetParam().expected), std::string::npos) << result.messages[1];
   ASSERT_EQ(arrays.size(), 2U);
   EXPECT_EQ(arrays[1].k, 3);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Files, UnreadableFileTest,
-    testing::Values(FailureCase{"Missing", nullptr, "No such file or directory"},
-                    FailureCase{"Folder", "", "Is a directory"},
-                    FailureCase{"NotANumber", "! Ic=1m\n1000 0.5 -30 4 abc 0.1 30 0.4 -20\n", ", line 2: \"abc\" is not a number"},
-                    FailureCase{"NumberWithUnit", "! Ic=1m\n\n1000 0.5 -30 4 100deg 0.1 30 0.4 -20\n", ", line 3: \"100deg\""}),
+    testing::Values(FailureCase{"Missing", nullptr, " cannot be read (No such file or directory)"},
+                    FailureCase{"Folder", "", " cannot be read (Is a directory)"},
+                    FailureCase{"NumberWithUnit", "! Ic=1m\n\n1000 0.5 -30 4 100deg 0.1 30 0.4 -20\n",
+                                ", line 3: \"100deg\" is not a number"}),
     [](const testing::TestParamInfo<FailureCase>& info) { return std::string(info.param.name); });
 
 }  // namespace
