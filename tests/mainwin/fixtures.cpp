@@ -4,49 +4,41 @@
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QSettings>
-#include <QTextStream>
 
 #include "mainwin/settings_file.h"
 #include "numerics/data_set.h"
 
 namespace mainwin_test {
 
-QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points) {
-  const QString path = dir.filePath(name);
+namespace {
+
+QString WriteFixture(const QString& path, const QString& text) {
   QFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write fixture %s", qPrintable(path));
-  QTextStream out(&file);
-  out << "Test device " << name << "\r\n";
-  for (int i = 1; i <= points; ++i) {
-    out << i * 100 << "M 0.5 -30 4.0 150 0.05 60 0.4 -20\r\n";
-  }
+  if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) qFatal("cannot write %s", qPrintable(path));
   return path;
+}
+
+}  // namespace
+
+QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points) {
+  QString text = "Test device " + name + "\r\n";
+  for (int i = 1; i <= points; ++i) text += QString::number(i * 100) + "M 0.5 -30 4.0 150 0.05 60 0.4 -20\r\n";
+  return WriteFixture(dir.filePath(name), text);
 }
 
 QString WriteBrokenFile(const QTemporaryDir& dir, const QString& name) {
-  const QString path = dir.filePath(name);
-  QFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write fixture %s", qPrintable(path));
-  file.write("Broken\n100M 0.5 -30 4 150 0.05 60 0.4 -20\n200M 0.5 x -30 4 150 0.05 60 0.4 -20\n");
-  return path;
+  return WriteFixture(dir.filePath(name),
+                      "Broken\n100M 0.5 -30 4 150 0.05 60 0.4 -20\n200M 0.5 x -30 4 150 0.05 60 0.4 -20\n");
 }
 
 QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment, bool stable) {
-  const QString path = dir.filePath(name);
-  QFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write fixture %s", qPrintable(path));
-  QTextStream out(&file);
-  out << "! Bias point " << name << "\n" << comment << "\n# MHz S MA R 50\n";
+  QString text = "! Bias point " + name + "\n" + comment + "\n# MHz S MA R 50\n";
   const char* parameters = stable ? " 0.3 -30 2 150 0.01 60 0.3 -20\n" : " 0.9 -30 5 150 0.1 60 0.9 -20\n";
-  for (int f = 500; f <= 4000; f += 500) out << f << parameters;
-  return path;
+  for (int f = 500; f <= 4000; f += 500) text += QString::number(f) + parameters;
+  return WriteFixture(dir.filePath(name), text);
 }
 
-void WriteSettingsFile(const QString& text) {
-  QFile file(mainwin::SettingsFilePath());
-  if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write the settings file");
-  file.write(text.toUtf8());
-}
+void WriteSettingsFile(const QString& text) { WriteFixture(mainwin::SettingsFilePath(), text); }
 
 QString ReadSettingsFile() {
   QFile file(mainwin::SettingsFilePath());

@@ -2,23 +2,43 @@
 
 #include <QString>
 #include <QStringList>
+#include <QTabBar>
 #include <QTemporaryDir>
-#include <QWidget>
-#include <vector>
+#include <QTest>
+#include <memory>
 
 #include "mainwin/dialog_hooks.h"
+#include "mainwin/form_set.h"
+#include "mainwin/main_window.h"
 #include "mainwin/message_box.h"
 
-// Small data files made for the tests, and the messages the window would have shown.
+// Small data files made for the tests, the window under test, and the messages it would have shown.
 namespace mainwin_test {
 
-// The control of that object name inside the window; a missing one ends the test run.
-template <typename T>
-T* FindControl(const QWidget& window, const char* name) {
-  T* found = window.findChild<T*>(name);
-  if (!found) qFatal("no control %s", name);
-  return found;
-}
+// Forgets the data sets, netrix.ini and the per-user settings of the previous test case.
+void ResetProgramState();
+
+// The window of a test case and its controls; Reset() belongs in each test class's init().
+class WindowSession {
+ protected:
+  void Reset() {
+    forms_.reset();
+    ResetProgramState();
+  }
+  void Start(const QStringList& arguments = {}) { forms_ = std::make_unique<mainwin::FormSet>(arguments); }
+  mainwin::TSDIAppForm& Window() { return *forms_->SDIAppForm(); }
+  // A missing control ends the test run.
+  template <typename T>
+  T* Find(const char* name) {
+    T* found = Window().findChild<T*>(name);
+    if (!found) qFatal("no control %s", name);
+    return found;
+  }
+  void ShowTab(int tab) { Find<QTabBar>("TabSet1")->setCurrentIndex(tab); }
+
+  QTemporaryDir dir_;
+  std::unique_ptr<mainwin::FormSet> forms_;
+};
 
 // Writes a two-port file with the given number of points (100 MHz apart, from 100 MHz).
 QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points);
@@ -31,8 +51,6 @@ QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QSt
 // Writes netrix.ini in the test's configuration folder.
 void WriteSettingsFile(const QString& text);
 QString ReadSettingsFile();
-// Forgets the data sets, netrix.ini and the per-user settings of the previous test case.
-void ResetProgramState();
 
 // Collects every message instead of showing a box.
 class MessageLog {

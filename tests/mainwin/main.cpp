@@ -18,11 +18,9 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   mainwin::InitialiseApplication();
   int failures = 0;
-  failures += RunSettingsFileTests(argc, argv);
-  failures += RunHistoryListTests(argc, argv);
-  failures += RunMainWindowTests(argc, argv);
-  failures += RunFrequencyPageTests(argc, argv);
-  failures += RunSeriesPageTests(argc, argv);
-  failures += RunOutputPagesTests(argc, argv);
+  for (auto* run : {RunSettingsFileTests, RunHistoryListTests, RunMainWindowTests, RunFrequencyPageTests,
+                    RunSeriesPageTests, RunOutputPagesTests}) {
+    failures += run(argc, argv);
+  }
   return failures == 0 ? 0 : 1;
 }

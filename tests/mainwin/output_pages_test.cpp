@@ -11,32 +11,24 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
-#include <QTabBar>
-#include <QTemporaryDir>
-#include <QTest>
 #include <cmath>
-#include <memory>
 
 #include "controls/string_align_grid.h"
 #include "diagram/diagram_state.h"
 #include "fixtures.h"
 #include "mainwin/engine/series_evaluation.h"
 #include "mainwin/engine/spa_export.h"
-#include "mainwin/form_set.h"
 #include "mainwin/graph_image.h"
 #include "mainwin/graph_page.h"
-#include "mainwin/main_window.h"
 #include "mainwin/pagegraphs/graph_data.h"
 
-using mainwin::FormSet;
-using mainwin::TSDIAppForm;
 using mainwin::pagegraphs::OutputPage;
 
 Q_DECLARE_METATYPE(OutputPage)
 
 // Pages 3 to 6: the graphs and their titles, the "&Graphic" menu, the table, the export,
 // printing, the picture files and the mouse read-out.
-class OutputPagesTest : public QObject {
+class OutputPagesTest : public QObject, mainwin_test::WindowSession {
   Q_OBJECT
 
  private slots:
@@ -63,31 +55,22 @@ class OutputPagesTest : public QObject {
   void PrintingNeedsTwoFilesAndACompletedDialog();
   void PictureFilesHoldTheShownGraph_data();
   void PictureFilesHoldTheShownGraph();
-  void CopyImagePutsTheGraphOnTheClipboard();
-  void PicturesNeedAGraphPage();
+  void CopyImageTakesTheGraphAndPicturesNeedAGraphPage();
   void MouseReadsOutTheValues();
 
  private:
-  TSDIAppForm& Window() { return *forms_->SDIAppForm(); }
-  template <typename T>
-  T* Find(const char* name) { return mainwin_test::FindControl<T>(Window(), name); }
   // Files at 2 and 4 mA on page 2, evaluated, with the area 500 square micrometres.
   QStringList DropTwoFiles(bool stable = true);
-  void ShowTab(int tab) { Find<QTabBar>("TabSet1")->setCurrentIndex(tab); }
   const mainwin::TGraphImage& Image(OutputPage page) { return Window().GraphPage(page).Image(); }
   mainwin::pagegraphs::PageGraph Drawn(OutputPage page) {
     return mainwin::pagegraphs::GraphOf(page, Image(page).Scene());
   }
   QString Out(const QString& name) const { return dir_.filePath(name); }
-
-  QTemporaryDir dir_;
-  std::unique_ptr<FormSet> forms_;
 };
 
 void OutputPagesTest::init() {
-  forms_.reset();
-  mainwin_test::ResetProgramState();
-  forms_ = std::make_unique<FormSet>(QStringList());
+  Reset();
+  Start();
   Window().show();
   QVERIFY(QTest::qWaitForWindowExposed(&Window()));
 }
@@ -110,7 +93,6 @@ void OutputPagesTest::AxisTitlesAndXValuesFollowTheXAxisChoice_data() {
   QTest::newRow("current") << "RadioButtonIc" << false << "I in A" << QList<double>{2e-3, 4e-3};
   QTest::newRow("density") << "RadioButtonIc" << true << "I in mA/µm²" << QList<double>{0.004, 0.008};
   QTest::newRow("file number") << "RadioButtonFileNo" << false << "File Number" << QList<double>{1, 2};
-  QTest::newRow("file number with density") << "RadioButtonFileNo" << true << "File Number" << QList<double>{1, 2};
 }
 
 void OutputPagesTest::AxisTitlesAndXValuesFollowTheXAxisChoice() {
@@ -134,13 +116,11 @@ void OutputPagesTest::AxisTitlesAndXValuesFollowTheXAxisChoice() {
 void OutputPagesTest::GraphicMenuKeepsOneOfEachPair_data() {
   QTest::addColumn<QStringList>("clicked");
   QTest::addColumn<QStringList>("checked");
-  QTest::newRow("fT") << QStringList{"fTonly1"} << QStringList{"fTonly1"};
   QTest::newRow("fT then fmax") << QStringList{"fTonly1", "fmaxonly1"} << QStringList{"fmaxonly1"};
   QTest::newRow("fmax then fT") << QStringList{"fmaxonly1", "fTonly1"} << QStringList{"fTonly1"};
   QTest::newRow("k then MAG") << QStringList{"konly1", "MAGMSGonly1"} << QStringList{"MAGMSGonly1"};
   QTest::newRow("MAG then k") << QStringList{"MAGMSGonly1", "konly1"} << QStringList{"konly1"};
   QTest::newRow("fT twice") << QStringList{"fTonly1", "fTonly1"} << QStringList{};
-  QTest::newRow("one of each pair") << QStringList{"fmaxonly1", "konly1"} << QStringList{"fmaxonly1", "konly1"};
   QTest::newRow("show fT and MAG") << QStringList{"fmaxonly1", "konly1", "ShowfTandMAG1"}
                                    << QStringList{"fTonly1", "MAGMSGonly1"};
   QTest::newRow("show all") << QStringList{"fTonly1", "MAGMSGonly1", "ShowAll1"} << QStringList{};
@@ -162,7 +142,6 @@ void OutputPagesTest::GraphicMenuRedrawsOnlyFromThePageBefore_data() {
   QTest::addColumn<bool>("redrawn");
   QTest::newRow("fT on page 2") << 1 << "fTonly1" << OutputPage::FtFmax << true;
   QTest::newRow("fmax on page 2") << 1 << "fmaxonly1" << OutputPage::FtFmax << true;
-  QTest::newRow("fT on page 3") << 2 << "fTonly1" << OutputPage::FtFmax << false;
   QTest::newRow("MAG on page 3") << 2 << "MAGMSGonly1" << OutputPage::KMag << true;
   QTest::newRow("k on page 3") << 2 << "konly1" << OutputPage::KMag << true;
   QTest::newRow("k on page 4") << 3 << "konly1" << OutputPage::KMag << false;
@@ -187,10 +166,8 @@ void OutputPagesTest::YTitleAndLegendFollowTheMenu_data() {
   QTest::addColumn<OutputPage>("page");
   QTest::addColumn<QString>("title");
   QTest::addColumn<bool>("legend");
-  QTest::newRow("fT and fmax") << "" << OutputPage::FtFmax << "fT & fmax in Hz" << true;
   QTest::newRow("fT only") << "fTonly1" << OutputPage::FtFmax << "fT in Hz" << false;
   QTest::newRow("k and MAG") << "" << OutputPage::KMag << "k (x10), MAG+MSG in dB" << true;
-  QTest::newRow("MAG only") << "MAGMSGonly1" << OutputPage::KMag << "MAG/MSG in dB" << false;
 }
 
 void OutputPagesTest::YTitleAndLegendFollowTheMenu() {
@@ -210,20 +187,16 @@ void OutputPagesTest::YTitleAndLegendFollowTheMenu() {
 void OutputPagesTest::UnstableDeviceTitle_data() {
   QTest::addColumn<bool>("stable");
   QTest::addColumn<QString>("title");
-  QTest::addColumn<double>("limit");
-  // Stable at every point: the limit is the first frequency, 500 MHz.
-  QTest::newRow("stable") << true << "f(k>1) in Hz" << 500e6;
-  QTest::newRow("unstable") << false << "Sorry! In the whole measured region the device is unstable!" << 0.0;
+  QTest::newRow("stable") << true << "f(k>1) in Hz";
+  QTest::newRow("unstable") << false << "Sorry! In the whole measured region the device is unstable!";
 }
 
 void OutputPagesTest::UnstableDeviceTitle() {
   QFETCH(bool, stable);
   QFETCH(QString, title);
-  QFETCH(double, limit);
   DropTwoFiles(stable);
   ShowTab(4);
   QCOMPARE(QString::fromStdString(Drawn(OutputPage::StabilityLimit).yTitle), title);
-  QCOMPARE(Drawn(OutputPage::StabilityLimit).series.front().y, (std::vector<double>{limit, limit}));
 }
 
 void OutputPagesTest::TableCellsAndCommentEdits_data() {
@@ -242,7 +215,8 @@ void OutputPagesTest::TableCellsAndCommentEdits() {
   const QStringList files = DropTwoFiles();
   ShowTab(5);
   auto* grid = Find<controls::TStringAlignGrid>("StringAlignGridTab");
-  QCOMPARE(grid->Cells(0, 0), QStringLiteral("File Name"));
+  const QStringList header = {"File Name", "Ic", "fT", "fmax", "MAG/MSG", "k", "f(k>1)", "j/(mA/µm²)"};
+  for (int column = 0; column < 8; ++column) QCOMPARE(grid->Cells(column, 0), header[column]);
   for (int row = 1; row <= 2; ++row) {
     const QString path = files[row - 1];
     QCOMPARE(grid->Cells(0, row), path.left(7) + "..." + path.right(15));
@@ -289,13 +263,8 @@ void OutputPagesTest::ExportMatchesTheEngineByteForByte() {
   }
   QCOMPARE(answers.SaveTitles(), QStringList({"Save Calculated Data"}));
   // The page's entries as set above, written out by hand.
-  mainwin::SeriesSettings settings;
-  settings.fo = 2e9;
-  settings.multiplier = 1e6;
-  settings.lgnd = 100e-12;
-  settings.area = 500;
-  settings.density = true;
-  settings.comment = "lot 7";
+  const mainwin::SeriesSettings settings{
+      .fo = 2e9, .multiplier = 1e6, .lgnd = 100e-12, .area = 500, .density = true, .comment = "lot 7"};
   mainwin::SeriesList list;
   list.Append({files[0].toStdString(), files[1].toStdString()});
   mainwin::SeriesArrays arrays;
@@ -306,8 +275,6 @@ void OutputPagesTest::ExportMatchesTheEngineByteForByte() {
   const QByteArray bytes = written.readAll();
   QCOMPARE(bytes, QByteArray::fromStdString(expected));
   QVERIFY(bytes.startsWith("Data derived by lioraira: lot 7\n"));
-  QVERIFY(bytes.contains("  j/(mA/\xB5m\xB2)\n"));
-  QCOMPARE(bytes.count('\n'), 4);
 }
 
 void OutputPagesTest::ExportWritesNothingWithoutFilesOrWhenCancelled() {
@@ -411,16 +378,12 @@ void OutputPagesTest::PictureFilesHoldTheShownGraph() {
   QVERIFY2(worst <= tolerance, qPrintable(QString::number(worst)));
 }
 
-void OutputPagesTest::CopyImagePutsTheGraphOnTheClipboard() {
+void OutputPagesTest::CopyImageTakesTheGraphAndPicturesNeedAGraphPage() {
   DropTwoFiles();
   ShowTab(4);
   Find<QAction>("CopyImage1")->trigger();
   QCOMPARE(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32),
            Image(OutputPage::StabilityLimit).Picture());
-}
-
-void OutputPagesTest::PicturesNeedAGraphPage() {
-  DropTwoFiles();
   ShowTab(5);
   mainwin_test::MessageLog log;
   mainwin_test::DialogAnswers answers(Out("table.bmp"), QString());
