@@ -3,8 +3,8 @@
 #include <ostream>
 
 #include "atomic_file.h"
-#include "mainwin/engine/series_evaluation.h"
-#include "mainwin/engine/spa_export.h"
+#include "series/series_evaluation.h"
+#include "series/spa_export.h"
 #include "series_options.h"
 
 namespace app {
@@ -24,8 +24,8 @@ bool WriteTable(const std::string& content, const SeriesOptions& options, std::o
 
 }  // namespace
 
-mainwin::SeriesList MakeSeries(const std::vector<std::string>& files, std::ostream& err) {
-  mainwin::SeriesList list;
+series::SeriesList MakeSeries(const std::vector<std::string>& files, std::ostream& err) {
+  series::SeriesList list;
   list.Append(files);
   if (files.size() > list.SeriesCount()) err << list.Append({files[list.SeriesCount()]}).message << '\n';
   return list;
@@ -38,12 +38,12 @@ int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, st
     err << "netrix --series: " << error << '\n';
     return 1;
   }
-  const mainwin::SeriesList list = MakeSeries(options.files, err);
-  mainwin::SeriesArrays arrays;
-  const mainwin::SeriesEvaluation evaluation = mainwin::EvaluateSeries(list, options.settings, arrays);
+  const series::SeriesList list = MakeSeries(options.files, err);
+  series::SeriesArrays arrays;
+  const series::SeriesEvaluation evaluation = series::EvaluateSeries(list, options.settings, arrays);
   for (const std::string& message : evaluation.messages) err << message << '\n';
   if (!evaluation.completed) return 1;
-  return WriteTable(mainwin::SpaContent(list, arrays, options.settings), options, out, err) ? 0 : 1;
+  return WriteTable(series::SpaContent(list, arrays, options.settings), options, out, err) ? 0 : 1;
 }
 
 std::string SeriesUsageText() {

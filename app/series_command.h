@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "mainwin/engine/series_list.h"
+#include "series/series_list.h"
 
 namespace app {
 
@@ -14,7 +14,7 @@ namespace app {
 int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 
 // The first 40 files as a series; a further one is refused with the list's own message on err.
-mainwin::SeriesList MakeSeries(const std::vector<std::string>& files, std::ostream& err);
+series::SeriesList MakeSeries(const std::vector<std::string>& files, std::ostream& err);
 
 // The lines of netrix --help that describe the series mode.
 std::string SeriesUsageText();

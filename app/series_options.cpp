@@ -5,8 +5,8 @@
 namespace app {
 namespace {
 
-using mainwin::SeriesSettings;
-using mainwin::XAxisChoice;
+using series::SeriesSettings;
+using series::XAxisChoice;
 
 struct FlagOption {
   const char* name;
@@ -28,7 +28,7 @@ struct Choice {
 };
 
 constexpr Choice<double> kMultipliers[] = {
-    {"Hz", mainwin::kMultiplierHz}, {"MHz", mainwin::kMultiplierMHz}, {"GHz", mainwin::kMultiplierGHz}};
+    {"Hz", series::kMultiplierHz}, {"MHz", series::kMultiplierMHz}, {"GHz", series::kMultiplierGHz}};
 constexpr Choice<XAxisChoice> kXAxes[] = {
     {"ic", XAxisChoice::CurrentIc}, {"id", XAxisChoice::CurrentId}, {"fileno", XAxisChoice::FileNumber}};
 

@@ -4,12 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "mainwin/engine/series_settings.h"
+#include "series/series_settings.h"
 
 namespace app {
 
 struct SeriesOptions {
-  mainwin::SeriesSettings settings = mainwin::DefaultSeriesSettings();
+  series::SeriesSettings settings = series::DefaultSeriesSettings();
   std::vector<std::string> files;
   std::optional<std::string> outPath;
 };

@@ -6,8 +6,8 @@
 #include <ostream>
 
 #include "diagram/canvas.h"
-#include "mainwin/engine/series_evaluation.h"
-#include "mainwin/pagegraphs/page_graphs.h"
+#include "series/series_evaluation.h"
+#include "diagram/pages/page_graphs.h"
 #include "render_options.h"
 #include "render_output.h"
 #include "series_command.h"
@@ -16,7 +16,7 @@
 namespace app {
 namespace {
 
-using mainwin::pagegraphs::OutputPage;
+using diagram::pages::OutputPage;
 
 constexpr SeriesView kSeriesViews[] = {
     {"ft-fmax", OutputPage::FtFmax},
@@ -81,15 +81,15 @@ int RunSeriesRender(const SeriesView& view, const std::vector<std::string>& args
   if (format == nullptr) {
     return Fail(err, "cannot tell the picture format of \"" + outPath + "\"; end the name in " + PictureExtensions());
   }
-  const mainwin::SeriesList list = MakeSeries(o.series.files, err);
-  mainwin::pagegraphs::PageScene scene{{}, o.series.settings, o.connect, {}};
-  const mainwin::SeriesEvaluation evaluation = mainwin::EvaluateSeries(list, scene.settings, scene.results);
+  const series::SeriesList list = MakeSeries(o.series.files, err);
+  diagram::pages::PageScene scene{{}, o.series.settings, o.connect, {}};
+  const series::SeriesEvaluation evaluation = series::EvaluateSeries(list, scene.settings, scene.results);
   for (const std::string& message : evaluation.messages) err << message << '\n';
   if (!evaluation.completed) return 1;
   const GuiSession session;
   const imageexport::ExportResult written = format->write(outPath, o.width, o.height, [&](QPainter& painter) {
     diagram::Canvas canvas(painter, o.width, o.height);
-    mainwin::pagegraphs::RoutineOf(view.page)(scene, canvas);
+    diagram::pages::RoutineOf(view.page)(scene, canvas);
   });
   if (!written.Ok()) return Fail(err, written.error);
   return 0;

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "mainwin/pagegraphs/page_scene.h"
+#include "diagram/pages/page_scene.h"
 
 // The figure-of-merit views of netrix --render: the graphs of the output pages, drawn from a bias
 // series evaluated with the options of netrix --series.
@@ -13,7 +13,7 @@ namespace app {
 
 struct SeriesView {
   const char* name;
-  mainwin::pagegraphs::OutputPage page;
+  diagram::pages::OutputPage page;
 };
 
 // nullptr when no series view has that name.

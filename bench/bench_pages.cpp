@@ -20,18 +20,18 @@
 #include "mainwin/form_set.h"
 #include "mainwin/main_window.h"
 #include "mainwin/message_box.h"
-#include "mainwin/pagegraphs/page_graphs.h"
+#include "diagram/pages/page_graphs.h"
 
 namespace {
 
-using mainwin::pagegraphs::OutputPage;
+using diagram::pages::OutputPage;
 
 constexpr int kFiles = 40;
 
 // A series whose figures rise and fall with the current the way a transistor's do.
-mainwin::pagegraphs::PageScene FortyResults() {
-  mainwin::pagegraphs::PageScene scene;
-  scene.settings = mainwin::DefaultSeriesSettings();
+diagram::pages::PageScene FortyResults() {
+  diagram::pages::PageScene scene;
+  scene.settings = series::DefaultSeriesSettings();
   scene.connect = true;
   for (int i = 1; i <= kFiles; ++i) {
     const double x = i / 10.0;
@@ -44,12 +44,12 @@ mainwin::pagegraphs::PageScene FortyResults() {
 // As the page's image does it: a fresh picture of the image's size, drawn by the page's routine.
 void BM_RedrawOutputPage1024x768(benchmark::State& state) {
   const auto page = static_cast<OutputPage>(state.range(0));
-  const mainwin::pagegraphs::PageScene scene = FortyResults();
+  const diagram::pages::PageScene scene = FortyResults();
   for (auto _ : state) {
     QImage picture(1024, 768, QImage::Format_RGB32);
     QPainter painter(&picture);
     diagram::Canvas canvas(painter, picture.width(), picture.height());
-    mainwin::pagegraphs::RoutineOf(page)(scene, canvas);
+    diagram::pages::RoutineOf(page)(scene, canvas);
     benchmark::DoNotOptimize(picture.constBits());
   }
 }

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "mainwin/engine/series_evaluation.h"
-#include "mainwin/engine/series_list.h"
-#include "mainwin/engine/series_settings.h"
+#include "series/series_evaluation.h"
+#include "series/series_list.h"
+#include "series/series_settings.h"
 
 namespace {
 
@@ -30,8 +30,8 @@ std::string SeriesFileText(int file) {
 }
 
 // The 40 files, written once; later reads hit the page cache.
-const mainwin::SeriesList& FortyFiles() {
-  static const mainwin::SeriesList list = [] {
+const series::SeriesList& FortyFiles() {
+  static const series::SeriesList list = [] {
     const std::filesystem::path folder = std::filesystem::temp_directory_path() / "netrix_bench_series";
     std::filesystem::create_directories(folder);
     std::vector<std::string> paths;
@@ -40,7 +40,7 @@ const mainwin::SeriesList& FortyFiles() {
       std::ofstream(path, std::ios::binary) << SeriesFileText(file);
       paths.push_back(path.string());
     }
-    mainwin::SeriesList series;
+    series::SeriesList series;
     series.Append(paths);
     return series;
   }();
@@ -48,12 +48,12 @@ const mainwin::SeriesList& FortyFiles() {
 }
 
 void EvaluateForty(benchmark::State& state, bool withLgnd) {
-  const mainwin::SeriesList& list = FortyFiles();
-  mainwin::SeriesSettings settings = mainwin::DefaultSeriesSettings();
+  const series::SeriesList& list = FortyFiles();
+  series::SeriesSettings settings = series::DefaultSeriesSettings();
   settings.withLgnd = withLgnd;
-  mainwin::SeriesArrays arrays;
+  series::SeriesArrays arrays;
   for (auto _ : state) {
-    const mainwin::SeriesEvaluation evaluation = mainwin::EvaluateSeries(list, settings, arrays);
+    const series::SeriesEvaluation evaluation = series::EvaluateSeries(list, settings, arrays);
     if (!evaluation.completed || arrays.size() != 40) state.SkipWithError("the series did not evaluate");
     benchmark::DoNotOptimize(arrays.data());
   }

@@ -20,13 +20,13 @@ QString ValueText(double value) {
 
 }  // namespace
 
-TGraphImage::TGraphImage(pagegraphs::OutputPage page, QWidget* parent) : QWidget(parent), page_(page) {
+TGraphImage::TGraphImage(diagram::pages::OutputPage page, QWidget* parent) : QWidget(parent), page_(page) {
   setMouseTracking(true);
   setCursor(Qt::CrossCursor);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void TGraphImage::Draw(const pagegraphs::PageScene& scene) {
+void TGraphImage::Draw(const diagram::pages::PageScene& scene) {
   scene_ = scene;
   drawn_ = true;
   Render();
@@ -38,7 +38,7 @@ void TGraphImage::Paint(QPainter& painter, const QRect& rect) const {
   painter.translate(rect.topLeft());
   painter.setClipRect(QRect(QPoint(0, 0), rect.size()));
   diagram::Canvas canvas(painter, rect.width(), rect.height());
-  pagegraphs::RoutineOf(page_)(scene_, canvas);
+  diagram::pages::RoutineOf(page_)(scene_, canvas);
   painter.restore();
 }
 

@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "diagram/diagram_state.h"
-#include "mainwin/pagegraphs/page_graphs.h"
+#include "diagram/pages/page_graphs.h"
 
 // The picture of an output page (Image1, Image2, Image3): it keeps the scene it was last asked
 // to draw and redraws that scene at its own size, so a resize keeps the picture sharp while the
@@ -15,12 +15,12 @@ class TGraphImage : public QWidget {
   Q_OBJECT
 
  public:
-  TGraphImage(pagegraphs::OutputPage page, QWidget* parent = nullptr);
+  TGraphImage(diagram::pages::OutputPage page, QWidget* parent = nullptr);
 
-  pagegraphs::OutputPage Page() const { return page_; }
-  void Draw(const pagegraphs::PageScene& scene);
+  diagram::pages::OutputPage Page() const { return page_; }
+  void Draw(const diagram::pages::PageScene& scene);
   bool IsDrawn() const { return drawn_; }
-  const pagegraphs::PageScene& Scene() const { return scene_; }
+  const diagram::pages::PageScene& Scene() const { return scene_; }
   // The picture as shown; null before the first drawing.
   const QImage& Picture() const { return picture_; }
   // The last scene drawn again into rect, on any device (a printer page, a larger picture).
@@ -39,8 +39,8 @@ class TGraphImage : public QWidget {
  private:
   void Render();
 
-  pagegraphs::OutputPage page_;
-  pagegraphs::PageScene scene_;
+  diagram::pages::OutputPage page_;
+  diagram::pages::PageScene scene_;
   bool drawn_ = false;
   QImage picture_;
   diagram::Diagram scale_;  // the diagram state the picture was drawn with

@@ -6,12 +6,12 @@
 #include <QVBoxLayout>
 
 #include "graph_image.h"
-#include "mainwin/pagegraphs/graph_data.h"
+#include "diagram/pages/graph_data.h"
 #include "output_pages.h"
 
 namespace mainwin {
 
-TGraphPage::TGraphPage(pagegraphs::OutputPage page, const Names& names, QWidget* parent)
+TGraphPage::TGraphPage(diagram::pages::OutputPage page, const Names& names, QWidget* parent)
     : QWidget(parent), page_(page) {
   image_ = new TGraphImage(page, this);
   image_->setObjectName(names.image);
@@ -30,8 +30,8 @@ TGraphPage::TGraphPage(pagegraphs::OutputPage page, const Names& names, QWidget*
   layout->addWidget(image_, 1);
 }
 
-void TGraphPage::Redraw(const pagegraphs::PageScene& scene) {
-  if (legend_) legend_->setVisible(pagegraphs::BothSeriesShown(page_, scene.choice));
+void TGraphPage::Redraw(const diagram::pages::PageScene& scene) {
+  if (legend_) legend_->setVisible(diagram::pages::BothSeriesShown(page_, scene.choice));
   image_->Draw(scene);
 }
 

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "mainwin/pagegraphs/page_scene.h"
+#include "diagram/pages/page_scene.h"
 
 class QLabel;
 class QLineEdit;
@@ -24,17 +24,17 @@ class TGraphPage : public QWidget {
     const char* legendText;
   };
 
-  TGraphPage(pagegraphs::OutputPage page, const Names& names, QWidget* parent = nullptr);
+  TGraphPage(diagram::pages::OutputPage page, const Names& names, QWidget* parent = nullptr);
 
   // Draws the scene; the legend label shows while both series of the page are shown.
-  void Redraw(const pagegraphs::PageScene& scene);
+  void Redraw(const diagram::pages::PageScene& scene);
   TGraphImage& Image() const { return *image_; }
   QLineEdit& CommentEdit() const { return *comment_; }
   // The legend text while the label is shown, else empty.
   QString LegendText() const;
 
  private:
-  pagegraphs::OutputPage page_;
+  diagram::pages::OutputPage page_;
   TGraphImage* image_ = nullptr;
   QLineEdit* comment_ = nullptr;
   QLabel* legend_ = nullptr;

@@ -13,8 +13,8 @@
 #include <QVBoxLayout>
 
 #include "controls/string_align_grid.h"
-#include "mainwin/engine/series_list.h"
-#include "mainwin/engine/table_cells.h"
+#include "series/series_list.h"
+#include "series/table_cells.h"
 #include "numerics/prefixed_number.h"
 #include "numerics/text_functions.h"
 #include "output_pages.h"
@@ -40,7 +40,7 @@ double EntryValue(const QLineEdit* edit, double fallback) {
   return parsed.status == numerics::kParseDigitsRead ? parsed.value : fallback;
 }
 
-constexpr int kFileRows = static_cast<int>(kMaxSeriesFiles) + 1;  // row 0 is not used
+constexpr int kFileRows = static_cast<int>(series::kMaxSeriesFiles) + 1;  // row 0 is not used
 
 QToolButton* MakeToolButton(QWidget* parent, const char* name, QStyle::StandardPixmap icon, const QString& hint) {
   auto* button = new QToolButton(parent);
@@ -223,24 +223,24 @@ void InputPage::ShowSeriesCount(int count) {
 }
 
 void InputPage::ShowFileRow(int row, const std::string& path) {
-  stringGridFiles_->SetCells(0, row, QString::fromStdString(FileListPathText(path)));
+  stringGridFiles_->SetCells(0, row, QString::fromStdString(series::FileListPathText(path)));
 }
 
 void InputPage::ClearFileRows(int first, int last) {
   for (int row = first; row <= last; ++row) stringGridFiles_->ClearRow(row);
 }
 
-SeriesSettings InputPage::EvaluationSettings() const {
+series::SeriesSettings InputPage::EvaluationSettings() const {
   const IniSettings entries = CurrentSettings();
-  SeriesSettings s;
+  series::SeriesSettings s;
   s.fo = entries.fo;
   s.multiplier = entries.fMultiplier;
   s.lgnd = entries.lgnd;
   s.withLgnd = entries.withLgnd;
   s.fmaxFromU = checkBoxU_->isChecked();
-  s.xAxis = radioButtonIc_->isChecked()       ? XAxisChoice::CurrentIc
-            : radioButtonFileNo_->isChecked() ? XAxisChoice::FileNumber
-                                              : XAxisChoice::CurrentId;
+  s.xAxis = radioButtonIc_->isChecked()       ? series::XAxisChoice::CurrentIc
+            : radioButtonFileNo_->isChecked() ? series::XAxisChoice::FileNumber
+                                              : series::XAxisChoice::CurrentId;
   s.area = entries.area;
   s.density = entries.jOutput;
   return s;

@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <string>
 
-#include "mainwin/engine/series_settings.h"
+#include "series/series_settings.h"
 #include "settings_file.h"
 
 class QCheckBox;
@@ -38,7 +38,7 @@ class InputPage : public QWidget {
   void ClearFileRows(int first, int last);
 
   // What the series evaluation and the output pages are asked for; the comment is left empty.
-  SeriesSettings EvaluationSettings() const;
+  series::SeriesSettings EvaluationSettings() const;
   bool AutoCalculate() const;
   bool ConnectPoints() const;
   bool CommentToOutputs() const;

@@ -15,7 +15,7 @@
 #include <QVBoxLayout>
 
 #include "controls/string_align_grid.h"
-#include "mainwin/engine/table_cells.h"
+#include "series/table_cells.h"
 #include "form_set.h"
 #include "frequency_page.h"
 #include "graph_image.h"
@@ -78,7 +78,7 @@ QWidget* TSDIAppForm::BuildNotebook() {
   notebook1_->setObjectName("Notebook1");
   frequencyPage_ = new FrequencyPage(notebook1_);
   inputPage_ = new InputPage(notebook1_);
-  using pagegraphs::OutputPage;
+  using diagram::pages::OutputPage;
   graphPages_ = {
       new TGraphPage(OutputPage::FtFmax, {"Image1", "EditComment1", "LabelLegende1", "fT - crosses "}, notebook1_),
       new TGraphPage(OutputPage::KMag, {"Image2", "EditComment2", "LabelLegende2", "k - crosses "}, notebook1_),
@@ -132,8 +132,8 @@ void TSDIAppForm::FormCreate(const QStringList& arguments) {
   }
   connect(tabSet1_, &QTabBar::currentChanged, this, &TSDIAppForm::TabSet1Click);
   auto* table = findChild<controls::TStringAlignGrid*>("StringAlignGridTab");
-  for (int column = 0; column < static_cast<int>(kTableColumnCount); ++column) {
-    table->SetCells(column, 0, QString::fromUtf8(kTableHeader[static_cast<std::size_t>(column)]));
+  for (int column = 0; column < static_cast<int>(series::kTableColumnCount); ++column) {
+    table->SetCells(column, 0, QString::fromUtf8(series::kTableHeader[static_cast<std::size_t>(column)]));
   }
   ReadIniFile();
   inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
@@ -223,7 +223,7 @@ void TSDIAppForm::SetPrinterHint() {
   drucken1_->setStatusTip(tr("Print window with ") + QPrinterInfo::defaultPrinterName());
 }
 
-TGraphPage& TSDIAppForm::GraphPage(pagegraphs::OutputPage page) const {
+TGraphPage& TSDIAppForm::GraphPage(diagram::pages::OutputPage page) const {
   return *graphPages_[static_cast<std::size_t>(page)];
 }
 

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "display_mode.h"
-#include "mainwin/engine/series_arrays.h"
-#include "mainwin/engine/series_list.h"
-#include "mainwin/pagegraphs/page_scene.h"
+#include "series/series_arrays.h"
+#include "series/series_list.h"
+#include "diagram/pages/page_scene.h"
 
 class QAction;
 class QFileDialog;
@@ -57,11 +57,11 @@ class TSDIAppForm : public QMainWindow {
   // What the last diagram button asked for, and its "Connect Frequency Points" state.
   DisplayMode CurrentDisplayMode() const { return displayMode_; }
   bool ConnectForWindows() const { return connectForWindows_; }
-  SeriesList& Series() { return series_; }
+  series::SeriesList& Series() { return series_; }
   // The results of the last completed evaluation, one per file of the series.
-  const SeriesArrays& Results() const { return results_; }
+  const series::SeriesArrays& Results() const { return results_; }
   THistoryList& HistoryList() { return *historyList1_; }
-  TGraphPage& GraphPage(pagegraphs::OutputPage page) const;
+  TGraphPage& GraphPage(diagram::pages::OutputPage page) const;
 
  signals:
   void FormClosed();
@@ -99,16 +99,16 @@ class TSDIAppForm : public QMainWindow {
   void StringGridFilesSelectCell(int row);
   bool CalculateSeries();
   void ExportData();
-  SeriesArrays ShownResults() const;
-  SeriesSettings OutputSettings() const;
+  series::SeriesArrays ShownResults() const;
+  series::SeriesSettings OutputSettings() const;
 
   QMenu* BuildGraphicMenu();
   void AddOutputItems(QMenu* menu);
   void EnterOutputPage(int page);
-  void RedrawGraphPage(pagegraphs::OutputPage page);
+  void RedrawGraphPage(diagram::pages::OutputPage page);
   void FillResultTable();
   void TakeCommentToOutputs(QLineEdit& edit) const;
-  void ToggleGraphicItem(QAction* item, QAction* partner, int redrawOnPage, pagegraphs::OutputPage page);
+  void ToggleGraphicItem(QAction* item, QAction* partner, int redrawOnPage, diagram::pages::OutputPage page);
   void ShowAll1Click();
   void ShowfTandMAG1Click();
 
@@ -117,7 +117,7 @@ class TSDIAppForm : public QMainWindow {
   TGraphPage* ShownGraphPage();
   bool RefuseWithoutTwoFiles();
   void PrintSheets(const std::vector<Sheet>& sheets);
-  Sheet GraphSheet(pagegraphs::OutputPage page);
+  Sheet GraphSheet(diagram::pages::OutputPage page);
   Sheet TableSheet();
   void PrintAllWindows1Click();
   void Print1stTwo1Click();
@@ -134,8 +134,8 @@ class TSDIAppForm : public QMainWindow {
   void StartOrBeep(bool started);
 
   FormSet& forms_;
-  SeriesList series_;
-  SeriesArrays results_;
+  series::SeriesList series_;
+  series::SeriesArrays results_;
   int pageNumber_ = 1;
   DisplayMode displayMode_ = DisplayMode::InputReflection;
   bool connectForWindows_ = true;

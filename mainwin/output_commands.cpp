@@ -11,7 +11,7 @@
 namespace mainwin {
 namespace {
 
-using pagegraphs::OutputPage;
+using diagram::pages::OutputPage;
 
 constexpr int kFirstGraphPage = 3;
 constexpr int kTablePage = 6;
@@ -82,7 +82,7 @@ void TSDIAppForm::EnterOutputPage(int page) {
 void TSDIAppForm::RedrawGraphPage(OutputPage page) {
   TGraphPage& graph = GraphPage(page);
   TakeCommentToOutputs(graph.CommentEdit());
-  pagegraphs::PageScene scene{ShownResults(), OutputSettings(), inputPage_->ConnectPoints(), {}};
+  diagram::pages::PageScene scene{ShownResults(), OutputSettings(), inputPage_->ConnectPoints(), {}};
   scene.choice = {fTonly1_->isChecked(), fmaxonly1_->isChecked(), mAGMSGonly1_->isChecked(), konly1_->isChecked()};
   graph.Redraw(scene);
 }

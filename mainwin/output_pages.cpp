@@ -6,7 +6,7 @@
 #include <cassert>
 
 #include "controls/string_align_grid.h"
-#include "mainwin/engine/table_cells.h"
+#include "series/table_cells.h"
 
 namespace mainwin {
 namespace {
@@ -47,13 +47,13 @@ QWidget* MakeTablePage(QWidget* parent) {
   return page;
 }
 
-void ShowResultTable(controls::TStringAlignGrid& grid, const SeriesList& list, const SeriesArrays& results,
-                     const SeriesSettings& settings) {
+void ShowResultTable(controls::TStringAlignGrid& grid, const series::SeriesList& list, const series::SeriesArrays& results,
+                     const series::SeriesSettings& settings) {
   assert(results.size() == list.SeriesCount());
   const int count = static_cast<int>(results.size());
   for (int row = 1; row <= count; ++row) {
     const auto i = static_cast<std::size_t>(row - 1);
-    const std::vector<std::string> cells = TableRowTexts(list.Path(i), results[i], settings);
+    const std::vector<std::string> cells = series::TableRowTexts(list.Path(i), results[i], settings);
     for (int column = 0; column < kTableColumns; ++column) {
       const bool filled = static_cast<std::size_t>(column) < cells.size();
       grid.SetCells(column, row, filled ? QString::fromStdString(cells[static_cast<std::size_t>(column)]) : QString());

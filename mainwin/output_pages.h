@@ -3,9 +3,9 @@
 #include <QFont>
 #include <QString>
 
-#include "mainwin/engine/series_arrays.h"
-#include "mainwin/engine/series_list.h"
-#include "mainwin/engine/series_settings.h"
+#include "series/series_arrays.h"
+#include "series/series_list.h"
+#include "series/series_settings.h"
 
 class QLineEdit;
 class QWidget;
@@ -30,7 +30,7 @@ QWidget* MakeTablePage(QWidget* parent);
 
 // Rows 1..count from the results; column 7 holds the current density only when it is asked for.
 // The remaining rows are cleared.
-void ShowResultTable(controls::TStringAlignGrid& grid, const SeriesList& list, const SeriesArrays& results,
-                     const SeriesSettings& settings);
+void ShowResultTable(controls::TStringAlignGrid& grid, const series::SeriesList& list, const series::SeriesArrays& results,
+                     const series::SeriesSettings& settings);
 
 }  // namespace mainwin

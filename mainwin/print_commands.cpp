@@ -20,7 +20,7 @@
 namespace mainwin {
 namespace {
 
-using pagegraphs::OutputPage;
+using diagram::pages::OutputPage;
 
 constexpr int kFirstGraphPage = 3;
 constexpr int kTablePage = 6;

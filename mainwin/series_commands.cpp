@@ -7,10 +7,10 @@
 #include "dialog_hooks.h"
 #include "input_page.h"
 #include "main_window.h"
-#include "mainwin/engine/dropped_files.h"
-#include "mainwin/engine/series_evaluation.h"
-#include "mainwin/engine/series_messages.h"
-#include "mainwin/engine/spa_export.h"
+#include "series/dropped_files.h"
+#include "series/series_evaluation.h"
+#include "series/series_messages.h"
+#include "series/spa_export.h"
 #include "message_box.h"
 
 namespace mainwin {
@@ -30,11 +30,11 @@ QString WriteDataFile(const QString& path, const std::string& content) {
 void TSDIAppForm::AppendSeriesFiles(const QStringList& paths) {
   std::vector<std::string> names;
   for (const QString& path : paths) names.push_back(QFileInfo(path).absoluteFilePath().toStdString());
-  const DroppedFiles dropped = SortOutDroppedPaths(names);
-  if (!dropped.refused.empty()) ShowMessage(this, QString::fromStdString(RefusedFilesMessage(dropped.refused)));
+  const series::DroppedFiles dropped = series::SortOutDroppedPaths(names);
+  if (!dropped.refused.empty()) ShowMessage(this, QString::fromStdString(series::RefusedFilesMessage(dropped.refused)));
   if (dropped.series.empty()) return;
   const std::size_t first = series_.SeriesCount();
-  const AppendResult appended = series_.Append(dropped.series);
+  const series::AppendResult appended = series_.Append(dropped.series);
   if (!appended.message.empty()) {
     ShowMessage(this, QString::fromStdString(appended.message));
     return;
@@ -71,12 +71,12 @@ void TSDIAppForm::StringGridFilesSelectCell(int row) {
   const std::size_t count = series_.SeriesCount();
   if (row < 1 || static_cast<std::size_t>(row) > count) return;
   const auto index = static_cast<std::size_t>(row - 1);
-  const QString text = QString::fromStdString(FileValuesText(ShownResults()[index]));
+  const QString text = QString::fromStdString(series::FileValuesText(ShownResults()[index]));
   if (count == 1) {
     ShowMessage(this, text);
     return;
   }
-  if (!AskQuestion(this, text + kMoveUpQuestion)) return;
+  if (!AskQuestion(this, text + series::kMoveUpQuestion)) return;
   const std::size_t other = index == 0 ? count - 1 : index - 1;
   series_.MoveUp(index);
   inputPage_->ShowFileRow(row, series_.Path(index));
@@ -85,13 +85,13 @@ void TSDIAppForm::StringGridFilesSelectCell(int row) {
 }
 
 bool TSDIAppForm::CalculateSeries() {
-  const SeriesSettings settings = OutputSettings();
+  const series::SeriesSettings settings = OutputSettings();
   if (settings.density && !(settings.area > 0)) {
     ShowMessage(this, tr("The current density needs a transistor area above 0 µm². Enter the area, then "
                          "calculate again!"));
     return false;
   }
-  const SeriesEvaluation evaluation = EvaluateSeries(series_, settings, results_);
+  const series::SeriesEvaluation evaluation = series::EvaluateSeries(series_, settings, results_);
   for (const std::string& message : evaluation.messages) ShowMessage(this, QString::fromStdString(message));
   return evaluation.completed;
 }
@@ -106,19 +106,19 @@ void TSDIAppForm::ExportData() {
   if (path.isEmpty()) return;
   lastExportFile_ = path;
   TakeCommentToOutputs(*editComment3_);
-  SeriesSettings settings = OutputSettings();
+  series::SeriesSettings settings = OutputSettings();
   settings.comment = editComment3_->text().toStdString();
-  const QString error = WriteDataFile(path, SpaContent(series_, results_, settings));
+  const QString error = WriteDataFile(path, series::SpaContent(series_, results_, settings));
   if (!error.isEmpty()) ShowMessage(this, error);
 }
 
 // Files never evaluated show zeros, as a freshly reset result would.
-SeriesArrays TSDIAppForm::ShownResults() const {
-  SeriesArrays shown = results_;
+series::SeriesArrays TSDIAppForm::ShownResults() const {
+  series::SeriesArrays shown = results_;
   shown.resize(series_.SeriesCount());
   return shown;
 }
 
-SeriesSettings TSDIAppForm::OutputSettings() const { return inputPage_->EvaluationSettings(); }
+series::SeriesSettings TSDIAppForm::OutputSettings() const { return inputPage_->EvaluationSettings(); }
 
 }  // namespace mainwin

@@ -16,13 +16,13 @@
 #include "controls/string_align_grid.h"
 #include "diagram/diagram_state.h"
 #include "fixtures.h"
-#include "mainwin/engine/series_evaluation.h"
-#include "mainwin/engine/spa_export.h"
+#include "series/series_evaluation.h"
+#include "series/spa_export.h"
 #include "mainwin/graph_image.h"
 #include "mainwin/graph_page.h"
-#include "mainwin/pagegraphs/graph_data.h"
+#include "diagram/pages/graph_data.h"
 
-using mainwin::pagegraphs::OutputPage;
+using diagram::pages::OutputPage;
 
 Q_DECLARE_METATYPE(OutputPage)
 
@@ -62,8 +62,8 @@ class OutputPagesTest : public QObject, mainwin_test::WindowSession {
   // Files at 2 and 4 mA on page 2, evaluated, with the area 500 square micrometres.
   QStringList DropTwoFiles(bool stable = true);
   const mainwin::TGraphImage& Image(OutputPage page) { return Window().GraphPage(page).Image(); }
-  mainwin::pagegraphs::PageGraph Drawn(OutputPage page) {
-    return mainwin::pagegraphs::GraphOf(page, Image(page).Scene());
+  diagram::pages::PageGraph Drawn(OutputPage page) {
+    return diagram::pages::GraphOf(page, Image(page).Scene());
   }
   QString Out(const QString& name) const { return dir_.filePath(name); }
 };
@@ -157,7 +157,7 @@ void OutputPagesTest::GraphicMenuRedrawsOnlyFromThePageBefore() {
   for (int page = 2; page <= 4; ++page) ShowTab(page);  // every graph drawn with nothing chosen
   ShowTab(tab);
   Find<QAction>(qPrintable(item))->trigger();
-  const mainwin::pagegraphs::GraphicChoice& c = Image(affected).Scene().choice;
+  const diagram::pages::GraphicChoice& c = Image(affected).Scene().choice;
   QCOMPARE(c.fTOnly || c.fmaxOnly || c.magMsgOnly || c.kOnly, redrawn);
 }
 
@@ -263,13 +263,13 @@ void OutputPagesTest::ExportMatchesTheEngineByteForByte() {
   }
   QCOMPARE(answers.SaveTitles(), QStringList({"Save Calculated Data"}));
   // The page's entries as set above, written out by hand.
-  const mainwin::SeriesSettings settings{
+  const series::SeriesSettings settings{
       .fo = 2e9, .multiplier = 1e6, .lgnd = 100e-12, .area = 500, .density = true, .comment = "lot 7"};
-  mainwin::SeriesList list;
+  series::SeriesList list;
   list.Append({files[0].toStdString(), files[1].toStdString()});
-  mainwin::SeriesArrays arrays;
-  QVERIFY(mainwin::EvaluateSeries(list, settings, arrays).completed);
-  const std::string expected = mainwin::SpaContent(list, arrays, settings);
+  series::SeriesArrays arrays;
+  QVERIFY(series::EvaluateSeries(list, settings, arrays).completed);
+  const std::string expected = series::SpaContent(list, arrays, settings);
   QFile written(Out("result.spa"));
   QVERIFY(written.open(QIODevice::ReadOnly));
   const QByteArray bytes = written.readAll();

@@ -10,7 +10,7 @@
 #include <QToolButton>
 
 #include "fixtures.h"
-#include "mainwin/engine/table_cells.h"
+#include "series/table_cells.h"
 
 // Page 2: dropping files, the file list and its buttons, reordering, and the messages of the
 // evaluation.
@@ -68,7 +68,7 @@ void SeriesPageTest::FortyFiveFilesKeepFortyAndAFurtherDropIsRefused() {
   Window().FilesDropped(files.mid(0, 45));
   QCOMPARE(SeriesPaths(), files.mid(0, 40));
   for (const int row : {1, 40}) {
-    QCOMPARE(Row(row), QString::fromStdString(mainwin::FileListPathText(files[row - 1].toStdString())));
+    QCOMPARE(Row(row), QString::fromStdString(series::FileListPathText(files[row - 1].toStdString())));
   }
   QCOMPARE(Find<QLabel>("LabelNo")->text(), QStringLiteral("Number of files = 40"));
   QVERIFY(log.Messages().isEmpty());
@@ -93,7 +93,7 @@ void SeriesPageTest::DropsOnEveryPageButTheFirstExtendTheSeries() {
   Window().FilesDropped({files[2]});
   QCOMPARE(SeriesPaths(), files);
   QCOMPARE(Find<QListWidget>("CheckListBox1")->count(), 0);
-  QCOMPARE(Row(3), QString::fromStdString(mainwin::FileListPathText(files[2].toStdString())));
+  QCOMPARE(Row(3), QString::fromStdString(series::FileListPathText(files[2].toStdString())));
 }
 
 void SeriesPageTest::FoldersGiveTheirSeriesFilesAndOtherFilesAreRefused() {
@@ -182,7 +182,7 @@ void SeriesPageTest::SelectingAFileOffersToMoveItUp() {
   for (const QString& asked : questions.Questions()) QVERIFY2(question.match(asked).hasMatch(), qPrintable(asked));
   for (int i = 0; i < 3; ++i) {
     QCOMPARE(SeriesPaths()[i], files[order[i] - 1]);
-    QCOMPARE(Row(i + 1), QString::fromStdString(mainwin::FileListPathText(files[order[i] - 1].toStdString())));
+    QCOMPARE(Row(i + 1), QString::fromStdString(series::FileListPathText(files[order[i] - 1].toStdString())));
     // "Auto Calculate" evaluated again: the currents follow their files.
     QCOMPARE(Window().Results()[static_cast<std::size_t>(i)].current, order[i] * 1e-3);
   }

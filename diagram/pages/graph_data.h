@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "diagram/colour.h"
+#include "page_scene.h"
+
+// What an output page plots: the x value of every file, the y series with their colours and
+// markers, and the axis titles. Pure functions of the scene, so they are tested without drawing.
+namespace diagram::pages {
+
+struct PlotSeries {
+  std::vector<double> y;  // one value per file
+  diagram::Colour colour;
+  std::uint8_t marker;
+};
+
+struct PageGraph {
+  std::vector<double> x;           // one value per file
+  std::vector<PlotSeries> series;  // in drawing order; the first is marked with crosses
+  std::string xTitle;
+  std::string yTitle;
+  double leastYMax = 0;  // the upper y limit is raised to at least this
+};
+
+// The file number 1, 2, ...; else the current in A, or the current density in mA per square
+// micrometre when the density is asked for.
+std::vector<double> XValues(const PageScene& scene);
+std::string XAxisTitle(const series::SeriesSettings& settings);
+
+// Whether the page shows both of its series, which is when its legend label is visible.
+bool BothSeriesShown(OutputPage page, const GraphicChoice& choice);
+
+PageGraph GraphOf(OutputPage page, const PageScene& scene);
+
+}  // namespace diagram::pages

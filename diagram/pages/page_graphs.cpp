@@ -1,0 +1,110 @@
+#include "page_graphs.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cmath>
+#include <span>
+
+#include "diagram/axes.h"
+#include "diagram/current.h"
+#include "diagram/curves.h"
+#include "graph_data.h"
+#include "numerics/rounding.h"
+
+namespace diagram::pages {
+namespace {
+
+using diagram::Canvas;
+
+// The autoscaling leaves the largest value this much below the axis end, so that no point
+// lands on the frame's edge, where it would get no marker.
+constexpr double kHeadroom = 1.001;
+
+// The smallest value and the largest one with headroom: all that the autoscaling looks at.
+std::vector<double> ScalingValues(std::span<const double> values) {
+  assert(!values.empty());
+  const auto [low, high] = std::minmax_element(values.begin(), values.end());
+  return {*low, *high * (*high > 0 ? kHeadroom : 1)};
+}
+
+std::vector<double> AllY(const PageGraph& graph) {
+  std::vector<double> y;
+  for (const PlotSeries& s : graph.series) y.insert(y.end(), s.y.begin(), s.y.end());
+  return y;
+}
+
+// A range without width (one current for every file, every value 0) still gets a frame.
+void WidenEmptyRange(double& min, double& max) {
+  if (!(max > min)) max = min + (min == 0 ? 1 : std::fabs(min));
+}
+
+void ScaleAxes(const PageGraph& graph, Canvas& c) {
+  diagram::Diagram& d = diagram::CurrentDiagram();
+  d = diagram::Diagram{};  // ranges 0 to 1, kept when there is nothing to scale
+  diagram::SetAxisModes(diagram::AxisMode::Linear, diagram::AxisMode::Linear);
+  if (!graph.x.empty()) {
+    const std::vector<double> x = ScalingValues(graph.x);
+    diagram::AutoscaleX(x, static_cast<int>(x.size()));
+  }
+  const std::vector<double> y = AllY(graph);
+  if (!y.empty()) diagram::AutoscaleY(y, static_cast<int>(y.size()));
+  if (d.yMax < graph.leastYMax) d.yMax = graph.leastYMax;
+  WidenEmptyRange(d.xMin, d.xMax);
+  WidenEmptyRange(d.yMin, d.yMax);
+  d.yStep = numerics::NiceStep((d.yMax - 0) / 50);
+  diagram::SetupAxes(c, d.xMax, d.xMin, d.yMax, d.yMin);
+  diagram::SetAxisCrossing(d.xCross, d.yCross);
+}
+
+void DrawFrame(const PageGraph& graph, Canvas& c) {
+  diagram::ClearDiagram(diagram::kWhite, c);
+  c.SetFont(diagram::DiagramFont{});
+  ScaleAxes(graph, c);
+  const diagram::Diagram& d = diagram::CurrentDiagram();
+  diagram::SetDrawColour(diagram::kGrey, c);
+  diagram::DrawGrid(d.xLabelEvery, d.yLabelEvery, c);
+  diagram::SetDrawColour(diagram::kBlack, c);
+  diagram::DrawAxes(false, false, c, d.yStep, d.xStep);
+  diagram::DrawAxisLabels({}, c);
+}
+
+void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
+  DrawFrame(graph, c);
+  diagram::DiagramFont bold;
+  bold.bold = true;
+  c.SetFont(bold);
+  const int count = static_cast<int>(graph.x.size());
+  for (const PlotSeries& s : graph.series) {
+    diagram::SetDrawColour(s.colour, c);
+    diagram::DrawMarkers(graph.x, s.y, s.marker, count, c);
+    if (connect) diagram::DrawCurve(graph.x, s.y, count, c);
+  }
+  diagram::SetDrawColour(diagram::kBlack, c);
+  diagram::DrawXTitle(graph.xTitle, false, c);
+  diagram::DrawYTitle(graph.yTitle, c);
+}
+
+}  // namespace
+
+void DrawFtFmaxPage(const PageScene& scene, Canvas& canvas) {
+  DrawPageGraph(GraphOf(OutputPage::FtFmax, scene), scene.connect, canvas);
+}
+
+void DrawKMagPage(const PageScene& scene, Canvas& canvas) {
+  DrawPageGraph(GraphOf(OutputPage::KMag, scene), scene.connect, canvas);
+}
+
+void DrawStabilityPage(const PageScene& scene, Canvas& canvas) {
+  DrawPageGraph(GraphOf(OutputPage::StabilityLimit, scene), scene.connect, canvas);
+}
+
+PageRoutine RoutineOf(OutputPage page) {
+  switch (page) {
+    case OutputPage::FtFmax: return DrawFtFmaxPage;
+    case OutputPage::KMag: return DrawKMagPage;
+    case OutputPage::StabilityLimit: return DrawStabilityPage;
+  }
+  return nullptr;
+}
+
+}  // namespace diagram::pages

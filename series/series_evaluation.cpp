@@ -1,0 +1,140 @@
+#include "series_evaluation.h"
+
+#include <cmath>
+#include <optional>
+
+#include "numerics/extended.h"
+#include "numerics/real_functions.h"
+#include "numerics/text_cursor.h"
+#include "point_figures.h"
+#include "series_file.h"
+#include "series_line_reader.h"
+#include "series_messages.h"
+
+namespace series {
+namespace {
+
+// Below this a stability limit counts as not yet found.
+constexpr double kNoLimit = 1e-6;
+
+struct ReadFailure {
+  std::string message;
+};
+
+double ReadNumber(numerics::TextCursor& in, const std::string& path) {
+  const std::optional<double> value = in.ReadReal();
+  if (value) return *value;
+  throw ReadFailure{"File " + path + ", line " + std::to_string(in.LineNumber()) + ": \"" + in.TokenAtCursor() +
+                    "\" is not a number. Every data line needs a frequency and eight numbers "
+                    "(magnitude and angle of S11, S21, S12, S22)."};
+}
+
+// The pairs follow in the file order S11, S21, S12, S22 as magnitude and angle in degrees.
+void ReadPointParameters(numerics::TextCursor& in, const std::string& path, numerics::TwoPortState& st) {
+  for (numerics::ComplexValue* z : {&st.s.m11, &st.s.m21, &st.s.m12, &st.s.m22}) {
+    const double magnitude = ReadNumber(in, path);
+    *z = numerics::MakePolar(magnitude, ReadNumber(in, path));
+  }
+}
+
+// The figures of the last point at or below fo, with its guarded S-parameters.
+struct AnalysisPoint {
+  double f = 0;
+  numerics::Matrix2 s;
+  PointFigures figures;
+};
+
+// The gains are extrapolated to unity with -20 dB per decade. Every point at or below fo would
+// overwrite these values, so they are taken once, from the last such point; its current gain
+// is computed only then, from the same guarded S-parameters.
+void TakeAnalysisValues(const AnalysisPoint& point, numerics::TwoPortState& st, bool fmaxFromU, FileFigures& out) {
+  st.s = point.s;
+  const CurrentGain current = ComputeCurrentGain(st);
+  const PointFigures& p = point.figures;
+  const numerics::Extended gain = fmaxFromU ? p.u : p.bestGain;
+  out.fT = static_cast<double>(numerics::Extended{current.h21} * point.f);
+  out.fmax = static_cast<double>(std::sqrt(std::fabs(gain)) * point.f);
+  out.magDb = 10 * numerics::Log10(p.bestGain);
+  out.s21 = current.s21;
+  out.k = p.k;
+}
+
+// The limit ends as the first frequency of the last unbroken run with k >= 1 that reaches the
+// file's last point.
+void TrackStabilityLimit(double k, double f, double& fk) {
+  if (k >= 1.0 && std::fabs(fk) < kNoLimit) fk = f;
+  if (k < 1.0 && std::fabs(fk) > kNoLimit) fk = 0;
+}
+
+void TakePoint(numerics::TwoPortState& st, double f, const SeriesSettings& settings,
+               std::optional<AnalysisPoint>& analysis, FileFigures& out) {
+  if (settings.withLgnd) InsertGroundInductance(st, f, settings.lgnd);
+  const PointFigures p = ComputePointFigures(st);
+  if (f <= settings.fo) analysis = AnalysisPoint{f, st.s, p};
+  TrackStabilityLimit(p.k, f, out.fk);
+}
+
+FileFigures ScanSeriesText(std::string_view content, const std::string& path, const SeriesSettings& settings) {
+  numerics::TextCursor in(content);
+  numerics::TwoPortState st;
+  st.z0 = settings.z0;
+  FileFigures out;
+  std::optional<AnalysisPoint> analysis;
+  double previous = -HUGE_VAL;
+  for (SeriesLine line = ReadSeriesLine(in); line.kind != SeriesLineKind::EndOfFile; line = ReadSeriesLine(in)) {
+    if (line.kind == SeriesLineKind::Comment && settings.xAxis == XAxisChoice::CurrentIc) {
+      if (const std::optional<double> current = BiasCurrentFromComment(line.comment)) out.current = *current;
+    }
+    if (line.kind != SeriesLineKind::Data) continue;
+    // A frequency that does not rise starts the noise-parameter block of a Touchstone file;
+    // its lines are no S-parameters, and taken as such they would overwrite the figures.
+    if (line.frequency <= previous) break;
+    previous = line.frequency;
+    ReadPointParameters(in, path, st);
+    in.SkipLine();
+    TakePoint(st, line.frequency * settings.multiplier, settings, analysis, out);
+  }
+  if (analysis) TakeAnalysisValues(*analysis, st, settings.fmaxFromU, out);
+  return out;
+}
+
+FileEvaluation EvaluateSeriesFile(const std::string& path, const SeriesSettings& settings) {
+  std::string error;
+  const std::optional<std::string> content = ReadSeriesFile(path, error);
+  if (!content) return {{}, error};
+  return EvaluateSeriesText(*content, path, settings);
+}
+
+}  // namespace
+
+FileEvaluation EvaluateSeriesText(std::string_view content, const std::string& path, const SeriesSettings& settings) {
+  try {
+    return {ScanSeriesText(content, path, settings), {}};
+  } catch (const ReadFailure& failure) {
+    return {{}, failure.message};
+  }
+}
+
+SeriesEvaluation EvaluateSeries(const SeriesList& list, const SeriesSettings& settings, SeriesArrays& arrays) {
+  SeriesEvaluation result;
+  if (list.SeriesCount() == 0) {
+    result.messages.emplace_back(kEmptySeriesMessage);
+    return result;
+  }
+  SeriesArrays fresh;
+  fresh.reserve(list.SeriesCount());
+  for (const std::string& path : list.Paths()) {
+    FileEvaluation file = EvaluateSeriesFile(path, settings);
+    if (!file.error.empty()) {
+      result.messages.push_back(std::move(file.error));
+      return result;
+    }
+    if (file.figures.current == 0) result.messages.push_back(NoCurrentMessage(path));
+    fresh.push_back(file.figures);
+  }
+  arrays = std::move(fresh);
+  result.completed = true;
+  return result;
+}
+
+}  // namespace series

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "series_arrays.h"
+
+// Messages of the series evaluation and of the series page. The engine returns them; the caller
+// shows them.
+namespace series {
+
+inline constexpr const char* kEmptySeriesMessage = "Please drag s2p file(s) to the program.";
+inline constexpr const char* kMoveUpQuestion = " - Move set one position to the top?";
+
+inline std::string NoCurrentMessage(const std::string& path) {
+  return "Possibly the file " + path + " might be errorness (e.g. no Ic specified).";
+}
+
+// What selecting a file of the list tells about it: "fT=" with unit prefix and one decimal,
+// MAG/MSG with two decimals and k with three, both without leading blanks.
+std::string FileValuesText(const FileFigures& file);
+
+}  // namespace series

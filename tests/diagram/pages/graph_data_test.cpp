@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "diagram/curves.h"
+#include "diagram/pages/graph_data.h"
+
+namespace diagram::pages {
+namespace {
+
+// Three files at 1, 2 and 4 mA.
+PageScene ThreeFiles() {
+  PageScene scene;
+  scene.settings = series::DefaultSeriesSettings();
+  scene.results = {{1e-3, 10e9, 16e9, 12.5, 0, 0.8, 0},
+                   {2e-3, 20e9, 30e9, 15.0, 0, 1.2, 3e9},
+                   {4e-3, 25e9, 35e9, 16.5, 0, 2.5, 1e9}};
+  return scene;
+}
+
+struct XCase {
+  const char* name;
+  series::XAxisChoice choice;
+  bool density;
+  std::vector<double> x;
+  const char* title;
+};
+
+class XValuesTest : public testing::TestWithParam<XCase> {};
+
+TEST_P(XValuesTest, FollowTheXAxisChoice) {
+  PageScene scene = ThreeFiles();
+  scene.settings.xAxis = GetParam().choice;
+  scene.settings.density = GetParam().density;
+  scene.settings.area = 500;
+  const std::vector<double> x = XValues(scene);
+  ASSERT_EQ(x.size(), GetParam().x.size());
+  for (std::size_t i = 0; i < x.size(); ++i) EXPECT_DOUBLE_EQ(x[i], GetParam().x[i]) << i;
+  EXPECT_EQ(XAxisTitle(scene.settings), GetParam().title);
+}
+
+// j = 1000 * I / area: 1 mA on 500 square micrometres is 0.002 mA per square micrometre.
+INSTANTIATE_TEST_SUITE_P(
+    Choices, XValuesTest,
+    testing::Values(XCase{"FileNumberIgnoresDensity", series::XAxisChoice::FileNumber, true, {1, 2, 3}, "File Number"},
+                    XCase{"CurrentIc", series::XAxisChoice::CurrentIc, false, {1e-3, 2e-3, 4e-3}, "I in A"},
+                    XCase{"Density", series::XAxisChoice::CurrentIc, true, {0.002, 0.004, 0.008}, "I in mA/µm²"}),
+    [](const testing::TestParamInfo<XCase>& info) { return std::string(info.param.name); });
+
+struct GraphCase {
+  const char* name;
+  OutputPage page;
+  GraphicChoice choice;
+  const char* yTitle;
+  std::vector<std::vector<double>> series;
+  double leastYMax;
+  bool legend;
+  bool crosses = true;  // the first series shown is fT, k or f(k>1): green crosses, else red circles
+};
+
+class PageGraphTest : public testing::TestWithParam<GraphCase> {};
+
+TEST_P(PageGraphTest, ShowsTheChosenSeries) {
+  PageScene scene = ThreeFiles();
+  scene.choice = GetParam().choice;
+  const PageGraph graph = GraphOf(GetParam().page, scene);
+  EXPECT_EQ(graph.yTitle, GetParam().yTitle);
+  ASSERT_EQ(graph.series.size(), GetParam().series.size());
+  for (std::size_t s = 0; s < graph.series.size(); ++s) EXPECT_EQ(graph.series[s].y, GetParam().series[s]) << s;
+  EXPECT_EQ(graph.series.front().colour, GetParam().crosses ? diagram::kGreen : diagram::kRed);
+  EXPECT_EQ(graph.series.front().marker, GetParam().crosses ? diagram::kMarkerCross : diagram::kMarkerCircle);
+  EXPECT_EQ(graph.leastYMax, GetParam().leastYMax);
+  EXPECT_EQ(BothSeriesShown(GetParam().page, scene.choice), GetParam().legend);
+}
+
+constexpr GraphicChoice kAll{};
+constexpr GraphicChoice kFTOnly{true, false, false, false};
+constexpr GraphicChoice kFmaxOnly{false, true, false, false};
+constexpr GraphicChoice kMagOnly{false, false, true, false};
+constexpr GraphicChoice kKOnly{false, false, false, true};
+constexpr GraphicChoice kFTAndMag{true, false, true, false};
+
+INSTANTIATE_TEST_SUITE_P(
+    Choices, PageGraphTest,
+    testing::Values(
+        GraphCase{"FtFmaxBoth", OutputPage::FtFmax, kAll, "fT & fmax in Hz", {{10e9, 20e9, 25e9}, {16e9, 30e9, 35e9}}, 0, true},
+        GraphCase{"FtOnly", OutputPage::FtFmax, kFTOnly, "fT in Hz", {{10e9, 20e9, 25e9}}, 0, false},
+        GraphCase{"FmaxOnly", OutputPage::FtFmax, kFmaxOnly, "fmax in Hz", {{16e9, 30e9, 35e9}}, 0, false, false},
+        GraphCase{"KTimesTenAndMag", OutputPage::KMag, kAll, "k (x10), MAG+MSG in dB", {{8, 12, 25}, {12.5, 15, 16.5}}, 15, true},
+        GraphCase{"KOnlyUnscaled", OutputPage::KMag, kKOnly, "k Factor", {{0.8, 1.2, 2.5}}, 0, false},
+        GraphCase{"MagOnly", OutputPage::KMag, kMagOnly, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, false},
+        GraphCase{"FtAndMagOnTheGainPage", OutputPage::KMag, kFTAndMag, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, false},
+        GraphCase{"StabilityLimit", OutputPage::StabilityLimit, kAll, "f(k>1) in Hz", {{0, 3e9, 1e9}}, 0, false}),
+    [](const testing::TestParamInfo<GraphCase>& info) { return std::string(info.param.name); });
+
+// The warning stands in the axis title when no limit exceeds 1e-6 Hz, or there is no file.
+TEST(UnstableTitle, WarnsInTheAxisTitleWhenNoFileHasALimit) {
+  const char* unstable = "Sorry! In the whole measured region the device is unstable!";
+  const std::pair<std::vector<double>, std::string> cases[] = {
+      {{0, 1e-6}, unstable}, {{0, 2e-6}, "f(k>1) in Hz"}, {{}, unstable}};
+  for (const auto& [fk, title] : cases) {
+    PageScene scene;
+    for (const double limit : fk) scene.results.push_back({.fk = limit});
+    EXPECT_EQ(GraphOf(OutputPage::StabilityLimit, scene).yTitle, title) << fk.size();
+  }
+}
+
+}  // namespace
+}  // namespace diagram::pages

@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+#include <tuple>
+
+#include "diagram/current.h"
+#include "diagram/pages/page_graphs.h"
+
+namespace diagram::pages {
+namespace {
+
+// A 400 x 300 picture has the frame columns 48 .. 366 and rows 27 .. 263; markers are
+// round((366 + 263) / 500 + 1) = 2 pixels.
+constexpr int kWidth = 400;
+constexpr int kHeight = 300;
+const QRgb kGreenPixel = qRgb(0, 128, 0);
+const QRgb kRedPixel = qRgb(255, 0, 0);
+const QRgb kWhitePixel = qRgb(255, 255, 255);
+
+QImage Draw(OutputPage page, const PageScene& scene) {
+  QImage image(kWidth, kHeight, QImage::Format_RGB32);
+  QPainter painter(&image);
+  diagram::Canvas canvas(painter, kWidth, kHeight);
+  RoutineOf(page)(scene, canvas);
+  return image;
+}
+
+// fT 10 and 20 GHz, fmax 16 and 30 GHz at 1 and 2 mA. The x axis becomes 0 .. 3 mA (2 mA with
+// its headroom rounds up to 3 mA), the y axis 0 .. 40 GHz (30 GHz * 1.001 rounds up).
+PageScene TwoFiles(double secondCurrent = 2e-3) {
+  PageScene scene;
+  scene.settings = series::DefaultSeriesSettings();
+  scene.results = {{1e-3, 10e9, 16e9, 0, 0, 0, 0}, {secondCurrent, 20e9, 30e9, 0, 0, 0, 0}};
+  return scene;
+}
+
+bool AnyIn(const QImage& image, int left, int top, int size, QRgb colour) {
+  for (int x = left; x < left + size; ++x) {
+    for (int y = top; y < top + size; ++y) {
+      if (image.pixel(x, y) == colour) return true;
+    }
+  }
+  return false;
+}
+
+TEST(PageGraphs, MarksFtWithGreenCrossesAndFmaxWithRedCircles) {
+  const QImage image = Draw(OutputPage::FtFmax, TwoFiles());
+  // Columns 48 + 318 * I / 3 mA; rows 263 - 236 * f / 40 GHz.
+  EXPECT_EQ(image.pixel(154, 204), kGreenPixel);  // 1 mA, 10 GHz
+  EXPECT_EQ(image.pixel(260, 145), kGreenPixel);  // 2 mA, 20 GHz
+  EXPECT_TRUE(AnyIn(image, 154, 169, 3, kRedPixel));  // 1 mA, 16 GHz: the circle hangs right of and below it
+  EXPECT_TRUE(AnyIn(image, 260, 86, 3, kRedPixel));   // 2 mA, 30 GHz
+}
+
+TEST(PageGraphs, TheLargestCurrentKeepsItsMarker) {
+  // 4 mA would be the axis end without headroom, where markers are left out; with it the axis
+  // reaches 5 mA and 4 mA is column 48 + 318 * 0.8 = 302.
+  const QImage image = Draw(OutputPage::FtFmax, TwoFiles(4e-3));
+  EXPECT_EQ(image.pixel(302, 145), kGreenPixel);
+}
+
+TEST(PageGraphs, ConnectJoinsThePointsInListOrder) {
+  PageScene scene = TwoFiles();
+  // Column 181 lies between the fT points (154, 204) and (260, 145), clear of the grid.
+  EXPECT_FALSE(AnyIn(Draw(OutputPage::FtFmax, scene), 181, 188, 3, kGreenPixel));
+  scene.connect = true;
+  EXPECT_TRUE(AnyIn(Draw(OutputPage::FtFmax, scene), 181, 188, 3, kGreenPixel));
+}
+
+// k 0.5 and 0.6, MAG 3 and 4 dB: 10 k reaches only 6, so the axis is raised to 15 with the
+// step NiceStep(15 / 50) = 0.5; k alone rounds 0.6 * 1.001 up to 0.7, step NiceStep(0.014).
+TEST(PageGraphs, TheGainAxisKeepsRoomUpTo15UnlessOnlyKIsShown) {
+  PageScene scene;
+  scene.results = {{1e-3, 0, 0, 3, 0, 0.5, 0}, {2e-3, 0, 0, 4, 0, 0.6, 0}};
+  const std::tuple<GraphicChoice, double, double> cases[] = {{{}, 15, 0.5}, {{false, false, false, true}, 0.7, 0.02}};
+  for (const auto& [choice, yMax, yStep] : cases) {
+    scene.choice = choice;
+    Draw(OutputPage::KMag, scene);
+    EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().yMax, yMax);
+    EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().yStep, yStep);
+    EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().yMin, 0);
+  }
+}
+
+TEST(PageGraphs, AnUnstableSeriesStillGetsAFrame) {
+  PageScene scene = TwoFiles();
+  const QImage image = Draw(OutputPage::StabilityLimit, scene);
+  EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().yMax, 1);
+  EXPECT_EQ(image.pixel(48, 200), qRgb(0, 0, 0));  // the vertical axis at the crossing 0
+  EXPECT_EQ(image.pixel(200, 200), kWhitePixel);
+}
+
+TEST(PageGraphs, AnEmptySeriesDrawsTheBareFrame) {
+  const QImage image = Draw(OutputPage::FtFmax, PageScene{});
+  EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().xMax, 1);
+  EXPECT_EQ(image.pixel(200, 263), qRgb(0, 0, 0));  // the horizontal axis at y = 0
+}
+
+}  // namespace
+}  // namespace diagram::pages
