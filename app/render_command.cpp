@@ -16,7 +16,7 @@ namespace app {
 namespace {
 
 // Reads the files into a store of the command's own; the first failure is the message.
-std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, RenderScene& scene) {
+std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, diagram::SParameterScene& scene) {
   for (const std::string& file : o.files) {
     const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, file);
     if (outcome.status != numerics::LoadStatus::Loaded) return outcome.message;
@@ -50,7 +50,7 @@ int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::o
     return Fail(err, "cannot tell the picture format of \"" + o.outPath + "\"; end the name in " + PictureExtensions());
   }
   const auto store = std::make_unique<numerics::DataSetStore>();
-  RenderScene scene{{}, {}, o.chart, o.qValues, o.spline};
+  diagram::SParameterScene scene{{}, {}, o.chart, o.qValues, o.spline};
   if (const std::string failed = LoadFiles(o, *store, scene); !failed.empty()) return Fail(err, failed);
   const GuiSession session;
   const imageexport::ExportResult written = format->write(o.outPath, o.width, o.height, [&](QPainter& painter) {

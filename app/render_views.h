@@ -2,27 +2,16 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "diagram/canvas.h"
-#include "diagram/smith_chart.h"
-#include "numerics/data_set.h"
+#include "diagram/sparameter_views.h"
 
-// The pictures netrix --render can draw, one draw function per view, each a complete redraw
-// on the program-wide diagram state.
+// The S-parameter pictures netrix --render can draw, by name.
 namespace app {
-
-struct RenderScene {
-  std::vector<const numerics::TwoPortDataSet*> sets;
-  std::vector<std::string> names;  // one per data set, shown beside its curves
-  diagram::ChartKind chart = diagram::ChartKind::Impedance;
-  std::vector<double> qValues;
-  bool spline = true;
-};
 
 struct RenderView {
   const char* name;
-  void (*draw)(const RenderScene& scene, diagram::Canvas& canvas);
+  void (*draw)(const diagram::SParameterScene& scene, diagram::Canvas& canvas);
 };
 
 // nullptr when no view has that name.

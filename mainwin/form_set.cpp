@@ -41,7 +41,7 @@ FormSet::~FormSet() {
   while (!created_.empty()) created_.pop_back();
 }
 
-QWidget* FormSet::DiagramWindowOf(DiagramWindow window) const {
+QWidget* FormSet::DiagramWindowOf(graphwin::DiagramWindow window) const {
   const auto index = static_cast<std::size_t>(window);
   assert(index < diagramWindows_.size());
   return diagramWindows_[index];

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "display_mode.h"
+#include "graphwin/display_mode.h"
 
 class QWidget;
 
@@ -31,7 +31,7 @@ class FormSet {
   THilfeFOMBox* HilfeFOMBox() const { return hilfeFomBox_; }
   THilfeBox* HilfeBox() const { return hilfeBox_; }
   // The graph window of a diagram button; null while that window is not part of the program.
-  QWidget* DiagramWindowOf(DiagramWindow window) const;
+  QWidget* DiagramWindowOf(graphwin::DiagramWindow window) const;
 
  private:
   friend struct FormFactories;
@@ -41,7 +41,7 @@ class FormSet {
   TAboutBox* aboutBox_ = nullptr;
   THilfeFOMBox* hilfeFomBox_ = nullptr;
   THilfeBox* hilfeBox_ = nullptr;
-  std::array<QWidget*, kDiagramWindowCount> diagramWindows_{};
+  std::array<QWidget*, graphwin::kDiagramWindowCount> diagramWindows_{};
 };
 
 // Names the application ("S-Parameter Analysis") and where its per-user settings live.

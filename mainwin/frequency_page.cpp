@@ -12,7 +12,7 @@
 #include <cassert>
 
 #include "controls/spin_button.h"
-#include "message_box.h"
+#include "controls/message_box.h"
 #include "numerics/data_set.h"
 #include "numerics/prefixed_number.h"
 #include "numerics/two_port_state.h"
@@ -66,8 +66,8 @@ QWidget* FrequencyPage::MakeFileColumn() {
 QWidget* FrequencyPage::MakeDiagramButtons() {
   auto* group = new QGroupBox(tr("Diagrams"), this);
   auto* layout = new QGridLayout(group);
-  using W = DiagramWindow;
-  using M = DisplayMode;
+  using W = graphwin::DiagramWindow;
+  using M = graphwin::DisplayMode;
   layout->addWidget(MakeDiagramButton("SpeedButton1", "S11", W::Reflection, M::InputReflection), 0, 0);
   layout->addWidget(MakeDiagramButton("SpeedButton2", "S22", W::Reflection, M::OutputReflection), 0, 1);
   layout->addWidget(MakeDiagramButton("SpeedButton6", "S11 - S22", W::Reflection, M::BothReflections), 0, 2);
@@ -81,8 +81,8 @@ QWidget* FrequencyPage::MakeDiagramButtons() {
   return group;
 }
 
-QPushButton* FrequencyPage::MakeDiagramButton(const char* name, const QString& caption, DiagramWindow window,
-                                              DisplayMode mode) {
+QPushButton* FrequencyPage::MakeDiagramButton(const char* name, const QString& caption,
+                                              graphwin::DiagramWindow window, graphwin::DisplayMode mode) {
   auto* button = new QPushButton(caption, this);
   button->setObjectName(name);
   connect(button, &QPushButton::clicked, this, [this, window, mode] { emit DiagramRequested(window, mode); });
@@ -163,7 +163,7 @@ void FrequencyPage::AddFile(const FrequencyFile& file) {
 
 void FrequencyPage::SpeedButtonDeleteClick() {
   if (files_.Count() == 0) {
-    ShowMessage(this, tr("No file available!"));
+    controls::ShowMessage(this, tr("No file available!"));
     return;
   }
   numerics::DataSetStore& store = numerics::DataSets();

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "display_mode.h"
+#include "graphwin/display_mode.h"
 #include "frequency_files.h"
 
 class QCheckBox;
@@ -35,7 +35,7 @@ class FrequencyPage : public QWidget {
   bool ConnectFrequencyPoints() const;
 
  signals:
-  void DiagramRequested(DiagramWindow window, DisplayMode mode);
+  void DiagramRequested(graphwin::DiagramWindow window, graphwin::DisplayMode mode);
 
  private:
   QWidget* MakeFileColumn();
@@ -43,7 +43,8 @@ class FrequencyPage : public QWidget {
   QWidget* MakeCountAndZ0();
   void AddZ0Entry(QGridLayout& layout, int row);
   QWidget* MakeDisplayOptions();
-  QPushButton* MakeDiagramButton(const char* name, const QString& caption, DiagramWindow window, DisplayMode mode);
+  QPushButton* MakeDiagramButton(const char* name, const QString& caption, graphwin::DiagramWindow window,
+                                 graphwin::DisplayMode mode);
 
   void SpeedButtonDeleteClick();
   void CheckListBox1ClickCheck(QListWidgetItem* item);

@@ -23,7 +23,7 @@
 #include "help_boxes.h"
 #include "history_list.h"
 #include "input_page.h"
-#include "message_box.h"
+#include "controls/message_box.h"
 #include "output_pages.h"
 #include "settings_file.h"
 #include "tools_menu.h"
@@ -161,7 +161,7 @@ void TSDIAppForm::WriteIniFile() {
   WriteIniSettings(inputPage_->CurrentSettings(), ini);
   QString error;
   if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !SaveIniFile(path, ini, error)) {
-    ShowMessage(this, tr("The settings could not be saved to ") + path + " (" + error +
+    controls::ShowMessage(this, tr("The settings could not be saved to ") + path + " (" + error +
                           tr("). Make the folder writable to keep them next time!"));
   }
 }
@@ -182,7 +182,7 @@ void TSDIAppForm::closeEvent(QCloseEvent* event) {
 void TSDIAppForm::TabSet1Click(int index) {
   const int page = index + 1;
   if (page >= kFirstOutputPage && series_.SeriesCount() < 2) {
-    ShowMessage(this, tr("Please insert two or more files."));
+    controls::ShowMessage(this, tr("Please insert two or more files."));
     tabSet1_->setCurrentIndex(1);
     return;
   }
@@ -191,7 +191,7 @@ void TSDIAppForm::TabSet1Click(int index) {
   EnterOutputPage(page);
 }
 
-void TSDIAppForm::ShowDiagram(DiagramWindow window, DisplayMode mode) {
+void TSDIAppForm::ShowDiagram(graphwin::DiagramWindow window, graphwin::DisplayMode mode) {
   displayMode_ = mode;
   connectForWindows_ = frequencyPage_->ConnectFrequencyPoints();
   QWidget* shown = forms_.DiagramWindowOf(window);
@@ -210,7 +210,7 @@ void TSDIAppForm::Help1Click() {
 }
 
 void TSDIAppForm::VortoHelp1Click() {
-  if (!OpenHelpFile()) ShowMessage(this, tr("Help file not available. Look at Vorto manual in pdf format."));
+  if (!OpenHelpFile()) controls::ShowMessage(this, tr("Help file not available. Look at Vorto manual in pdf format."));
 }
 
 void TSDIAppForm::StayInFront1Click(bool checked) {

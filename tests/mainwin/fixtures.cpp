@@ -62,12 +62,12 @@ QuestionLog::QuestionLog(bool answer)
 
 DialogAnswers::DialogAnswers(const QString& savePath, const QString& pdfPath)
     : interception_(
-          [this, savePath](const mainwin::SaveDialogSetup& setup) {
+          [this, savePath](const controls::SaveDialogSetup& setup) {
             saveTitles_.append(setup.title);
             return savePath;
           },
-          [this, pdfPath](mainwin::PrinterDialog dialog, QPrinter& printer) {
-            if (dialog == mainwin::PrinterDialog::Print) ++printDialogs_;
+          [this, pdfPath](controls::PrinterDialog dialog, QPrinter& printer) {
+            if (dialog == controls::PrinterDialog::Print) ++printDialogs_;
             printer.setOutputFormat(QPrinter::PdfFormat);
             printer.setOutputFileName(pdfPath);
             return !pdfPath.isEmpty();

@@ -7,10 +7,10 @@
 #include <QTest>
 #include <memory>
 
-#include "mainwin/dialog_hooks.h"
+#include "controls/dialog_hooks.h"
 #include "mainwin/form_set.h"
 #include "mainwin/main_window.h"
-#include "mainwin/message_box.h"
+#include "controls/message_box.h"
 
 // Small data files made for the tests, the window under test, and the messages it would have shown.
 namespace mainwin_test {
@@ -60,7 +60,7 @@ class MessageLog {
 
  private:
   QStringList messages_;
-  mainwin::MessageInterception interception_;
+  controls::MessageInterception interception_;
 };
 
 // Answers every Yes/No question with the same answer and keeps the questions.
@@ -71,7 +71,7 @@ class QuestionLog {
 
  private:
   QStringList questions_;
-  mainwin::QuestionInterception interception_;
+  controls::QuestionInterception interception_;
 };
 
 // Answers the save dialogs with one path (empty: cancelled) and the print dialogs by printing to
@@ -85,7 +85,7 @@ class DialogAnswers {
  private:
   QStringList saveTitles_;
   int printDialogs_ = 0;
-  mainwin::DialogInterception interception_;
+  controls::DialogInterception interception_;
 };
 
 // The number of pages of a PDF file that QPrinter wrote; -1 when the file is missing.

@@ -17,7 +17,7 @@
 #include "numerics/data_set.h"
 #include "numerics/two_port_state.h"
 
-Q_DECLARE_METATYPE(mainwin::DisplayMode)
+Q_DECLARE_METATYPE(graphwin::DisplayMode)
 
 namespace {
 
@@ -223,7 +223,7 @@ void FrequencyPageTest::Z0IsLimited() {
 }
 
 void FrequencyPageTest::DiagramButtonSetsDisplayMode_data() {
-  using M = mainwin::DisplayMode;
+  using M = graphwin::DisplayMode;
   QTest::addColumn<QString>("button");
   QTest::addColumn<M>("mode");
   QTest::addColumn<bool>("connect");
@@ -240,7 +240,7 @@ void FrequencyPageTest::DiagramButtonSetsDisplayMode_data() {
 
 void FrequencyPageTest::DiagramButtonSetsDisplayMode() {
   QFETCH(QString, button);
-  QFETCH(mainwin::DisplayMode, mode);
+  QFETCH(graphwin::DisplayMode, mode);
   QFETCH(bool, connect);
   Start({File(1)});
   Find<QCheckBox>("VerbindenCheckBox")->setChecked(connect);

@@ -6,9 +6,9 @@
 class QPrinter;
 class QWidget;
 
-// The save dialogs and the printer dialogs of the main window. Like the message boxes they go
+// The save dialogs and the printer dialogs of the windows. Like the message boxes they go
 // through here, so that a test chooses the file or the printer instead of a person.
-namespace mainwin {
+namespace controls {
 
 struct SaveDialogSetup {
   const char* name;       // object name of the dialog, e.g. "SaveDialogSPA"
@@ -43,4 +43,4 @@ class DialogInterception {
   PrinterHandler previousPrinter_;
 };
 
-}  // namespace mainwin
+}  // namespace controls

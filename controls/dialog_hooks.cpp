@@ -7,7 +7,7 @@
 #include <QSettings>
 #include <utility>
 
-namespace mainwin {
+namespace controls {
 namespace {
 
 const char* const kSaveDirectoryKey = "Dialogs/SaveDirectory";
@@ -60,4 +60,4 @@ DialogInterception::~DialogInterception() {
   PrinterAnswer() = std::move(previousPrinter_);
 }
 
-}  // namespace mainwin
+}  // namespace controls
