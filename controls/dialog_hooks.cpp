@@ -22,6 +22,11 @@ PrinterHandler& PrinterAnswer() {
   return handler;
 }
 
+ModalHandler& ModalAnswer() {
+  static ModalHandler handler;
+  return handler;
+}
+
 }  // namespace
 
 QString ChooseSaveFile(QWidget* parent, const SaveDialogSetup& setup) {
@@ -51,6 +56,11 @@ bool SetUpPrinter(QWidget* parent, QPrinter& printer) {
   return dialog.exec() == QDialog::Accepted;
 }
 
+int RunModal(QDialog& dialog) {
+  if (ModalAnswer()) return ModalAnswer()(dialog);
+  return dialog.exec();
+}
+
 DialogInterception::DialogInterception(SaveFileHandler saveFile, PrinterHandler printer)
     : previousSaveFile_(std::exchange(SaveFileAnswer(), std::move(saveFile))),
       previousPrinter_(std::exchange(PrinterAnswer(), std::move(printer))) {}
@@ -59,5 +69,10 @@ DialogInterception::~DialogInterception() {
   SaveFileAnswer() = std::move(previousSaveFile_);
   PrinterAnswer() = std::move(previousPrinter_);
 }
+
+ModalInterception::ModalInterception(ModalHandler handler)
+    : previous_(std::exchange(ModalAnswer(), std::move(handler))) {}
+
+ModalInterception::~ModalInterception() { ModalAnswer() = std::move(previous_); }
 
 }  // namespace controls

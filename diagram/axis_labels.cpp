@@ -74,8 +74,12 @@ void DrawAxisLabels(const Diagram& d, LabelPlacement placement, Canvas& canvas) 
   const int column = XToPixel(d, d.xCross);
   for (const AxisLabel& label : YAxisLabels(d)) {
     const int width = canvas.TextWidth(label.text);
+    const int height = canvas.TextHeight(label.text);
     const int left = placement.yLabelsRight ? column + 4 : column - 4 - width;
-    canvas.TextOut(left, YToPixel(d, label.value) - canvas.TextHeight(label.text) / 2, label.text);
+    int top = YToPixel(d, label.value) - height / 2;
+    // The label at the crossing stands clear of the horizontal axis's labels.
+    if (label.value == d.yCross) top = placement.xLabelsAbove ? row + 1 : row - height;
+    canvas.TextOut(left, top, label.text);
   }
 }
 

@@ -25,8 +25,9 @@ struct LabelPlacement {
   bool yLabelsRight = false;  // right of the vertical axis instead of left of it
 };
 
-// Centred under (or over) the x ticks, beside the y ticks. A linear axis whose limits are equal
-// gets no labels.
+// Centred under (or over) the x ticks, beside the y ticks; the y label at the crossing on the
+// other side of the horizontal axis than its labels. A linear axis whose limits are equal gets
+// no labels.
 void DrawAxisLabels(const Diagram& d, LabelPlacement placement, Canvas& canvas);
 
 // The title of the horizontal axis ends left of its arrow head, above the axis (below it with

@@ -135,20 +135,28 @@ QWidget* FrequencyPage::MakeDisplayOptions() {
   auto* group = new QGroupBox(tr("Display"), this);
   auto* layout = new QGridLayout(group);
   verbindenCheckBox_ = MakeCheckBox(group, "VerbindenCheckBox", tr("Connect Frequency Points"), true);
-  auto* legend = MakeCheckBox(group, "LegendeCheckBox", tr("Display Legend"), true);
-  legend->setToolTip(tr("Maximum frequency only shown if file is loaded"));
-  legend->setStatusTip(legend->toolTip());
+  legendeCheckBox_ = MakeCheckBox(group, "LegendeCheckBox", tr("Display Legend"), true);
+  legendeCheckBox_->setToolTip(tr("Maximum frequency only shown if file is loaded"));
+  legendeCheckBox_->setStatusTip(legendeCheckBox_->toolTip());
   gleicheFrequenz_ = MakeCheckBox(group, "GleicheFrequenz", tr("Connect Points of Equal Frequencies"), false);
+  splineCheckBox_ = MakeCheckBox(group, "SplineCheckBox", tr("Spline Interpolation"), true);
+  kommentarCheckBox_ = MakeCheckBox(group, "KommentarCheckBox", tr("Display Comment"), false);
+  dateiCheckBox_ = MakeCheckBox(group, "DateiCheckBox", tr("Display File Names"), true);
   layout->addWidget(verbindenCheckBox_, 0, 0);
-  layout->addWidget(MakeCheckBox(group, "SplineCheckBox", tr("Spline Interpolation"), true), 1, 0);
+  layout->addWidget(splineCheckBox_, 1, 0);
   layout->addWidget(gleicheFrequenz_, 2, 0);
-  layout->addWidget(legend, 0, 1);
-  layout->addWidget(MakeCheckBox(group, "KommentarCheckBox", tr("Display Comment"), false), 1, 1);
-  layout->addWidget(MakeCheckBox(group, "DateiCheckBox", tr("Display File Names"), true), 2, 1);
+  layout->addWidget(legendeCheckBox_, 0, 1);
+  layout->addWidget(kommentarCheckBox_, 1, 1);
+  layout->addWidget(dateiCheckBox_, 2, 1);
   return group;
 }
 
 bool FrequencyPage::ConnectFrequencyPoints() const { return verbindenCheckBox_->isChecked(); }
+
+graphwin::plots::DisplayOptions FrequencyPage::DisplayOptions() const {
+  return {verbindenCheckBox_->isChecked(), splineCheckBox_->isChecked(),   legendeCheckBox_->isChecked(),
+          kommentarCheckBox_->isChecked(), gleicheFrequenz_->isChecked(), dateiCheckBox_->isChecked()};
+}
 
 void FrequencyPage::AddFile(const FrequencyFile& file) {
   files_.Add(file);

@@ -4,6 +4,7 @@
 
 #include "graphwin/display_mode.h"
 #include "frequency_files.h"
+#include "graphwin/plots/graph_inputs.h"
 
 class QCheckBox;
 class QGridLayout;
@@ -33,6 +34,8 @@ class FrequencyPage : public QWidget {
   const FrequencyFiles& Files() const { return files_; }
   double Z0() const { return z0_; }
   bool ConnectFrequencyPoints() const;
+  // The check boxes of the display group, as the graph windows read them.
+  graphwin::plots::DisplayOptions DisplayOptions() const;
 
  signals:
   void DiagramRequested(graphwin::DiagramWindow window, graphwin::DisplayMode mode);
@@ -60,6 +63,10 @@ class FrequencyPage : public QWidget {
   controls::TSpinButton* fAnzahlSpinButton_ = nullptr;
   QCheckBox* verbindenCheckBox_ = nullptr;
   QCheckBox* gleicheFrequenz_ = nullptr;
+  QCheckBox* splineCheckBox_ = nullptr;
+  QCheckBox* legendeCheckBox_ = nullptr;
+  QCheckBox* kommentarCheckBox_ = nullptr;
+  QCheckBox* dateiCheckBox_ = nullptr;
   QList<QPushButton*> singleFileButtons_;  // SpeedButton5 and SpeedButton6
   QList<QPushButton*> diagramButtons_;     // every diagram button
 };

@@ -15,6 +15,8 @@
 #include <QVBoxLayout>
 
 #include "controls/string_align_grid.h"
+#include "graphwin/graph_form.h"
+#include "numerics/data_set.h"
 #include "series/table_cells.h"
 #include "form_set.h"
 #include "frequency_page.h"
@@ -194,13 +196,28 @@ void TSDIAppForm::TabSet1Click(int index) {
 void TSDIAppForm::ShowDiagram(graphwin::DiagramWindow window, graphwin::DisplayMode mode) {
   displayMode_ = mode;
   connectForWindows_ = frequencyPage_->ConnectFrequencyPoints();
-  QWidget* shown = forms_.DiagramWindowOf(window);
+  graphwin::TGraphForm* shown = forms_.DiagramWindowOf(window);
   if (!shown) {
     statusBar()->showMessage(tr("This diagram window is not available yet."));
     return;
   }
-  shown->show();
-  shown->raise();
+  shown->ShowFromMain();
+}
+
+graphwin::plots::GraphInputs TSDIAppForm::GraphInputs() const {
+  graphwin::plots::GraphInputs inputs;
+  const FrequencyFiles& files = frequencyPage_->Files();
+  const numerics::DataSetStore& store = numerics::DataSets();
+  for (int i = 0; i < files.Count(); ++i) {
+    const FrequencyFile& file = files.File(i);
+    inputs.files.push_back({&store.sets[static_cast<std::size_t>(i)], file.path, file.active});
+  }
+  inputs.displayCount = files.DisplayCount();
+  inputs.z0 = frequencyPage_->Z0();
+  inputs.options = frequencyPage_->DisplayOptions();
+  inputs.options.connect = connectForWindows_;
+  inputs.mode = displayMode_;
+  return inputs;
 }
 
 void TSDIAppForm::Help1Click() {

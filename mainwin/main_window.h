@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "graphwin/display_mode.h"
+#include "graphwin/plots/graph_inputs.h"
 #include "series/series_arrays.h"
 #include "series/series_list.h"
 #include "diagram/pages/page_scene.h"
@@ -57,6 +58,8 @@ class TSDIAppForm : public QMainWindow {
   // What the last diagram button asked for, and its "Connect Frequency Points" state.
   graphwin::DisplayMode CurrentDisplayMode() const { return displayMode_; }
   bool ConnectForWindows() const { return connectForWindows_; }
+  // What the graph windows draw from: the files of the frequency page and its display options.
+  graphwin::plots::GraphInputs GraphInputs() const;
   series::SeriesList& Series() { return series_; }
   // The results of the last completed evaluation, one per file of the series.
   const series::SeriesArrays& Results() const { return results_; }
