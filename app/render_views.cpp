@@ -1,15 +1,32 @@
 #include "render_views.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
+
+#include "diagram/sparameter_views.h"
+#include "gain_view.h"
 
 namespace app {
 namespace {
 
+diagram::SParameterScene SceneOf(const RenderInput& input) {
+  const RenderOptions& o = input.options;
+  diagram::SParameterScene scene{input.sets, {}, o.chart, o.qValues, o.spline};
+  for (const std::string& file : o.files) scene.names.push_back(std::filesystem::path(file).filename().string());
+  return scene;
+}
+
+template <void (*Draw)(const diagram::SParameterScene&, diagram::Canvas&)>
+void DrawScene(const RenderInput& input, diagram::Canvas& canvas) {
+  Draw(SceneOf(input), canvas);
+}
+
 constexpr RenderView kViews[] = {
-    {"smith", diagram::DrawSmithView},
-    {"polar", diagram::DrawPolarView},
-    {"cartesian", diagram::DrawCartesianView},
+    {"smith", DrawScene<diagram::DrawSmithView>},
+    {"polar", DrawScene<diagram::DrawPolarView>},
+    {"cartesian", DrawScene<diagram::DrawCartesianView>},
+    {kGainView, DrawGainView},
 };
 
 }  // namespace

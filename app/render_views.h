@@ -2,21 +2,28 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "diagram/canvas.h"
-#include "diagram/sparameter_views.h"
+#include "numerics/data_set.h"
+#include "render_options.h"
 
-// The S-parameter pictures netrix --render can draw, by name.
+// The pictures of S-parameter files that netrix --render can draw, by name.
 namespace app {
+
+struct RenderInput {
+  const RenderOptions& options;
+  std::vector<const numerics::TwoPortDataSet*> sets;  // one per file, in the order given
+};
 
 struct RenderView {
   const char* name;
-  void (*draw)(const diagram::SParameterScene& scene, diagram::Canvas& canvas);
+  void (*draw)(const RenderInput& input, diagram::Canvas& canvas);
 };
 
 // nullptr when no view has that name.
 const RenderView* FindRenderView(std::string_view name);
-// "smith, polar or cartesian", for messages.
+// "smith, polar, cartesian or gain", for messages.
 std::string RenderViewNames();
 
 }  // namespace app
