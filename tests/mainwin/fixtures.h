@@ -45,9 +45,8 @@ QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int poin
 // A file whose second data line holds a letter where a number must be.
 QString WriteBrokenFile(const QTemporaryDir& dir, const QString& name);
 // A bias-series file: a comment line such as "! Ic=2m" (empty for none), "# MHz S MA R 50" and
-// points from 500 MHz to 4 GHz. A stable device has k far above 1 at every point (its limit is
-// 500 MHz), an unstable one k near 0.43.
-QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment, bool stable = true);
+// points from 500 MHz to 4 GHz of a device with k far above 1 at every point (its limit is 500 MHz).
+QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment);
 // Writes netrix.ini in the test's configuration folder.
 void WriteSettingsFile(const QString& text);
 QString ReadSettingsFile();
