@@ -32,9 +32,12 @@ void TGraphForm::Save1Click() {
   const QString path = controls::ChooseSaveFile(
       this, PictureDialog(tr("Save as BMP"), tr("Bitmap Files (*.bmp)"), "bmp", lastPictureFile_));
   if (path.isEmpty()) return;
-  lastPictureFile_ = path;
   const imageexport::ExportResult written = imageexport::SaveBmp(picture_, path.toStdString());
-  if (!written.Ok()) controls::ShowMessage(this, QString::fromStdString(written.error));
+  if (written.Ok()) {
+    lastPictureFile_ = path;
+  } else {
+    controls::ShowMessage(this, QString::fromStdString(written.error));
+  }
 }
 
 // The picture goes to the file by way of the clipboard, which keeps it afterwards.

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -83,6 +84,21 @@ TEST_F(GainWindowTest, OpensAtItsDefaultsAgainAfterAZoom) {
   window_->ShowFromMain();
   EXPECT_EQ(State().yMax, 40);
   EXPECT_EQ(window_->Picture().size(), Image()->size());
+}
+
+// Coming back from another window of the program starts again; from a dialog it does not.
+TEST_F(GainWindowTest, SwitchingBackFromAnotherWindowActivatesItAgain) {
+  QMainWindow other;
+  other.show();
+  axis_.show();
+  Find<QToolButton>("ZoomInButton")->click();
+  QApplication::setActiveWindow(window_.get());
+  QApplication::setActiveWindow(&axis_);
+  QApplication::setActiveWindow(window_.get());
+  EXPECT_DOUBLE_EQ(State().yMax, 40 / 1.5);
+  QApplication::setActiveWindow(&other);
+  QApplication::setActiveWindow(window_.get());
+  EXPECT_EQ(State().yMax, 40);
 }
 
 TEST_F(GainWindowTest, CheckBoxesChooseTheCurves) {
