@@ -8,7 +8,9 @@ namespace app {
 
 graphwin::plots::FrequencyPlot GainPlotOf(const RenderInput& input) {
   graphwin::plots::GraphInputs inputs;
-  for (std::size_t i = 0; i < input.sets.size(); ++i) inputs.files.push_back({input.sets[i], input.options.files[i], true});
+  for (std::size_t i = 0; i < input.sets.size(); ++i) {
+    inputs.files.push_back({input.sets[i], input.options.files[i], true});
+  }
   return graphwin::plots::BuildGainPlot(inputs, input.options.gainCurves);
 }
 

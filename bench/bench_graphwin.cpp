@@ -71,7 +71,9 @@ void BM_RedrawGainWindowFourFiles768x576(benchmark::State& state) {
   Session session(FourFiles());
   session.Main().findChild<QPushButton*>("SpeedButtonGain")->click();
   if (state.range(0) == 4) {
-    for (const char* box : {"CheckBoxMason", "CheckBoxMUG", "CheckBoxS21"}) session.Gain().findChild<QCheckBox*>(box)->click();
+    for (const char* box : {"CheckBoxMason", "CheckBoxMUG", "CheckBoxS21"}) {
+      session.Gain().findChild<QCheckBox*>(box)->click();
+    }
   }
   for (auto _ : state) {
     QImage picture(768, 576, QImage::Format_RGB32);

@@ -51,7 +51,9 @@ std::string AxisValueEntry::SpinDown() {
   return SpunText(value_);
 }
 
-void AxisValueEntry::Ok(std::string_view text) { value_ = std::clamp(numerics::ParseValueText(text).value, lower_, upper_); }
+void AxisValueEntry::Ok(std::string_view text) {
+  value_ = std::clamp(numerics::ParseValueText(text).value, lower_, upper_);
+}
 
 std::string AxisValueEntry::Cancel() {
   value_ = kept_;

@@ -42,7 +42,8 @@ void TGraphForm::Save1Click() {
 
 // The picture goes to the file by way of the clipboard, which keeps it afterwards.
 void TGraphForm::SaveasJPEG1Click() {
-  const QString path = controls::ChooseSaveFile(this, PictureDialog(tr("Save as JPEG"), tr("JPEG Files (*.jpg)"), "jpg"));
+  const QString path =
+      controls::ChooseSaveFile(this, PictureDialog(tr("Save as JPEG"), tr("JPEG Files (*.jpg)"), "jpg"));
   if (path.isEmpty()) return;
   QClipboard* clipboard = QGuiApplication::clipboard();
   clipboard->setImage(picture_);

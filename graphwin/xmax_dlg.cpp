@@ -28,6 +28,22 @@ QPushButton* MakeButton(QWidget* parent, const char* name, const QString& captio
 TXmaxDlg1::TXmaxDlg1(QWidget* parent) : QDialog(parent) {
   setObjectName("XmaxDlg1");
   setWindowTitle(tr("Axis Scale"));
+  QPushButton* ok = MakeButton(this, "OKBtn", tr("OK"));
+  ok->setDefault(true);
+  QPushButton* cancel = MakeButton(this, "CancelBtn", tr("Cancel"));
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(ok);
+  buttons->addWidget(cancel);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(MakeEntry());
+  layout->addLayout(buttons);
+  setFixedWidth(kClientWidth);
+  connect(ok, &QPushButton::clicked, this, &TXmaxDlg1::OKBtnClick);
+  connect(cancel, &QPushButton::clicked, this, &TXmaxDlg1::reject);
+}
+
+// The frame with the label, the edit field and the spin button.
+QWidget* TXmaxDlg1::MakeEntry() {
   auto* shape = new QFrame(this);
   shape->setObjectName("Shape1");
   shape->setFrameShape(QFrame::Box);
@@ -50,21 +66,10 @@ TXmaxDlg1::TXmaxDlg1(QWidget* parent) : QDialog(parent) {
   row->addWidget(edit_);
   row->addWidget(spin);
   (new QVBoxLayout(shape))->addWidget(panel);
-  QPushButton* ok = MakeButton(this, "OKBtn", tr("OK"));
-  ok->setDefault(true);
-  QPushButton* cancel = MakeButton(this, "CancelBtn", tr("Cancel"));
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(ok);
-  buttons->addWidget(cancel);
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(shape);
-  layout->addLayout(buttons);
-  setFixedWidth(kClientWidth);
   connect(edit_, &QLineEdit::textEdited, this, &TXmaxDlg1::EditChange);
   connect(spin, &controls::TSpinButton::UpClick, this, [this] { ShowSpun(entry_.SpinUp()); });
   connect(spin, &controls::TSpinButton::DownClick, this, [this] { ShowSpun(entry_.SpinDown()); });
-  connect(ok, &QPushButton::clicked, this, &TXmaxDlg1::OKBtnClick);
-  connect(cancel, &QPushButton::clicked, this, &TXmaxDlg1::reject);
+  return shape;
 }
 
 void TXmaxDlg1::SetLabel(const QString& text) { namenLabel_->setText(text); }

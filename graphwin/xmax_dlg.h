@@ -31,6 +31,7 @@ class TXmaxDlg1 : public QDialog {
   void reject() override;
 
  private:
+  QWidget* MakeEntry();
   void EditChange(const QString& text);
   void ShowSpun(const std::string& text);
   void OKBtnClick();

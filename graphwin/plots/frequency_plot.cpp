@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 #include "diagram/axes.h"
 #include "diagram/axis_labels.h"
@@ -23,7 +24,9 @@ constexpr int kLegendSample = 16;  // length of the coloured line before a name 
 
 using Samples = std::array<double, diagram::kSplineCapacity>;
 
-bool RisesStrictly(const std::vector<double>& x) { return std::adjacent_find(x.begin(), x.end(), std::greater_equal<>()) == x.end(); }
+bool RisesStrictly(const std::vector<double>& x) {
+  return std::adjacent_find(x.begin(), x.end(), std::greater_equal<>()) == x.end();
+}
 
 // The curve as drawn: smoothed through the spline where the look asks for it and the curve allows.
 int DrawnPoints(const Diagram& d, const FrequencyCurve& curve, const PlotLook& look, Samples& x, Samples& y) {
@@ -72,7 +75,9 @@ std::string MaximumFrequencyText(const FrequencyPlot& plot) {
 // colour, and the highest frequency.
 void DrawLegend(const Diagram& d, const FrequencyPlot& plot, Canvas& c) {
   int width = std::max(c.TextWidth(plot.legendHeading), c.TextWidth(MaximumFrequencyText(plot)));
-  for (const FrequencyCurve& curve : plot.curves) width = std::max(width, kLegendSample + kMargin + c.TextWidth(curve.name));
+  for (const FrequencyCurve& curve : plot.curves) {
+    width = std::max(width, kLegendSample + kMargin + c.TextWidth(curve.name));
+  }
   const int left = d.pixRight - kMargin - width;
   const int line = c.TextHeight(plot.legendHeading);
   int top = d.pixTop + kMargin;

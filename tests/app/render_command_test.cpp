@@ -103,7 +103,8 @@ TEST_F(RenderCommandTest, CartesianDrawsTheGainInDecibels) {
 // The curve table of the gain view holds, point for point, the numbers of netrix --figures.
 TEST_F(RenderCommandTest, GainCurvesAreTheFiguresColumns) {
   const std::string csv = Path("gain.csv"), picture = Path("gain.png");
-  ASSERT_EQ(Run({"--render", "gain", "--curves", "s21,mug,u,mag", "--xlog", "--data", csv, "--out", picture, input_}), 0)
+  ASSERT_EQ(Run({"--render", "gain", "--curves", "s21,mug,u,mag", "--xlog", "--data", csv, "--out", picture, input_}),
+            0)
       << err_.str();
   EXPECT_EQ(QImage(QString::fromStdString(picture)).size(), QSize(768, 576));
   ASSERT_EQ(Run({"--figures", input_}), 0);
