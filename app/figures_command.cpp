@@ -1,6 +1,5 @@
 #include "figures_command.h"
 
-#include <cstdio>
 #include <ostream>
 
 #include "numerics/conversions.h"
@@ -8,19 +7,14 @@
 #include "numerics/figures.h"
 #include "numerics/file_reader.h"
 #include "numerics/real_functions.h"
+#include "numerics/text_functions.h"
 
 namespace app {
 namespace {
 
 constexpr const char* kHeader = "f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs";
 
-std::string Number(double value) {
-  char buffer[40];
-  std::snprintf(buffer, sizeof buffer, "%.10g", value);
-  return buffer;
-}
-
-double Decibels(double ratio) { return 10 * numerics::Log10(ratio); }
+using numerics::Decibels;
 
 std::string FiguresLine(double frequency, const numerics::SParameters& point) {
   numerics::TwoPortState& st = numerics::WorkingState();
@@ -43,7 +37,7 @@ std::string FiguresLine(double frequency, const numerics::SParameters& point) {
                            Decibels(s21Squared),
                            numerics::Abs(st.h.m21)};
   std::string line;
-  for (const double v : values) line += (line.empty() ? "" : ",") + Number(v);
+  for (const double v : values) line += (line.empty() ? "" : ",") + numerics::CsvNumber(v);
   return line;
 }
 

@@ -11,7 +11,7 @@
 #include "frequency_page.h"
 #include "history_list.h"
 #include "main_window.h"
-#include "message_box.h"
+#include "controls/message_box.h"
 #include "numerics/data_set.h"
 #include "numerics/file_reader.h"
 #include "tools_menu.h"
@@ -43,7 +43,8 @@ QString ChooseFile(QFileDialog* dialog, const char* directoryKey) {
 
 bool TSDIAppForm::RefuseWhenStoreFull() {
   if (numerics::DataSets().openCount < numerics::kMaxDataSets) return false;
-  ShowMessage(this, tr("No more than ") + QString::number(numerics::kMaxDataSets) + tr(" files can be open!"));
+  controls::ShowMessage(this,
+                        tr("No more than ") + QString::number(numerics::kMaxDataSets) + tr(" files can be open!"));
   return true;
 }
 
@@ -62,14 +63,14 @@ void TSDIAppForm::Load1Click() {
 void TSDIAppForm::LoadFrequencyFile(const QString& fileName) {
   const QFileInfo file(fileName);
   if (!file.isFile()) {
-    ShowMessage(this, tr("File -") + fileName + tr("- is not available!"));
+    controls::ShowMessage(this, tr("File -") + fileName + tr("- is not available!"));
     return;
   }
   const QString path = file.absoluteFilePath();
   // Read first: a file that cannot be read must leave the series, the list and the page alone.
   const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(path.toStdString());
   if (outcome.status != numerics::LoadStatus::Loaded) {
-    ShowMessage(this, QString::fromStdString(outcome.message));
+    controls::ShowMessage(this, QString::fromStdString(outcome.message));
     return;
   }
   // A file of the frequency page belongs to the bias series as well.
@@ -84,7 +85,7 @@ void TSDIAppForm::LoadCommandLine(const QStringList& arguments) {
     if (QFileInfo(argument).isFile()) {
       LoadFrequencyFile(argument);
     } else {
-      ShowMessage(this, tr("File ") + argument + tr(" is not present!"));
+      controls::ShowMessage(this, tr("File ") + argument + tr(" is not present!"));
     }
   }
 }

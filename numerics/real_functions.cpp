@@ -53,6 +53,8 @@ double Log10(double x) {
   return static_cast<double>(std::log(std::fabs(static_cast<Extended>(x))) / std::log(Extended{10}));
 }
 
+double Decibels(double powerRatio) { return 10 * Log10(powerRatio); }
+
 double Power(double x, double base) {
   if (base == 0) return 0;
   return static_cast<double>(std::exp(static_cast<Extended>(x) * std::log(std::fabs(static_cast<Extended>(base)))));
