@@ -5,6 +5,7 @@
 
 #include "numerics/prefixed_number.h"
 #include "numerics/real_functions.h"
+#include "touchstone_option.h"
 
 namespace app {
 namespace {
@@ -34,6 +35,10 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
   const std::string& name = args[i];
   if (name == "--no-spline") {
     o.spline = false;
+    return {};
+  }
+  if (name == kTouchstoneOption) {
+    o.touchstone = true;
     return {};
   }
   if (name != "--out" && name != "--size" && name != "--chart" && name != "--q") {

@@ -22,6 +22,7 @@ struct RenderOptions {
   diagram::ChartKind chart = diagram::ChartKind::Impedance;
   std::vector<double> qValues;
   bool spline = true;
+  bool touchstone = false;  // read the files as Touchstone files
   std::vector<std::string> files;
 };
 
@@ -33,7 +34,7 @@ struct ParsedRenderOptions {
 // Reads "WIDTHxHEIGHT" with sides from 64 to 10000 pixels; returns an error text or "".
 std::string ParseSize(const std::string& text, int& width, int& height);
 
-// args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline] FILE...
+// args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline] [--touchstone] FILE...
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
 
 }  // namespace app
