@@ -39,6 +39,8 @@ struct TouchstoneData {
 // Reads a file's whole content; every number is checked. Bad input throws ReadFailure naming the file, the line and
 // what was expected; fileName only names the file (and tells an N-port file by its extension).
 TouchstoneData ReadTouchstone(std::string_view content, const std::string& fileName);
+// The data view the content, so a string about to vanish cannot be read.
+TouchstoneData ReadTouchstone(std::string&& content, const std::string& fileName) = delete;
 
 // The S-parameters of record i at the reference impedance z0 (ohms), Polar, in degrees. A record
 // that has none throws ReadFailure naming its line.

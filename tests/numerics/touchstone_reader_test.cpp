@@ -30,7 +30,8 @@ class NetworkTest : public testing::TestWithParam<NetworkCase> {};
 
 TEST_P(NetworkTest, GivesSAtTheReferenceImpedance) {
   const NetworkCase& c = GetParam();
-  const TouchstoneData data = ReadTouchstone("! hand-made\n" + c.header + "\n1 " + c.record + "\n", "t.s2p");
+  const std::string content = "! hand-made\n" + c.header + "\n1 " + c.record + "\n";
+  const TouchstoneData data = ReadTouchstone(content, "t.s2p");
   ASSERT_EQ(data.frequency.size(), 1U);
   ExpectPoint(data, 0, 50, c.s);
 }
@@ -101,7 +102,8 @@ TEST(TouchstoneReader, ReadsVersion1LayoutsAndLeavesTheNoiseBlockOut) {
   EXPECT_EQ(second.s[1][0].first, 13);
   EXPECT_EQ(second.s[1][0].second, 158);
 
-  const TouchstoneData bare = ReadTouchstone("1 .5 0 2 0 .1 0 .5 0\n", "bare.s2p");
+  const std::string bareContent = "1 .5 0 2 0 .1 0 .5 0\n";
+  const TouchstoneData bare = ReadTouchstone(bareContent, "bare.s2p");
   EXPECT_FALSE(bare.hasOptionLine);
   EXPECT_EQ(bare.frequencyUnit, 1e9);
 }
