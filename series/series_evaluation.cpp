@@ -34,6 +34,21 @@ struct AnalysisPoint {
   PointFigures figures;
 };
 
+// The gains are extrapolated to unity with -20 dB per decade. Every point at or below fo would
+// overwrite these values, so they are taken once, from the last such point; its current gain
+// is computed only then, from the same guarded S-parameters.
+void TakeAnalysisValues(const AnalysisPoint& point, numerics::TwoPortState& st, bool fmaxFromU, FileFigures& out) {
+  st.s = point.s;
+  const CurrentGain current = ComputeCurrentGain(st);
+  const PointFigures& p = point.figures;
+  const numerics::Extended gain = fmaxFromU ? p.u : p.bestGain;
+  out.fT = static_cast<double>(numerics::Extended{current.h21} * point.f);
+  out.fmax = static_cast<double>(std::sqrt(std::fabs(gain)) * point.f);
+  out.magDb = 10 * numerics::Log10(p.bestGain);
+  out.s21 = current.s21;
+  out.k = p.k;
+}
+
 // The limit ends as the first frequency of the last unbroken run with k >= 1 that reaches the
 // file's last point.
 void TrackStabilityLimit(double k, double f, double& fk) {
@@ -41,66 +56,35 @@ void TrackStabilityLimit(double k, double f, double& fk) {
   if (k < 1.0 && std::fabs(fk) > kNoLimit) fk = 0;
 }
 
-// One file's points in file order, and the figures they leave.
-class FileScan {
- public:
-  explicit FileScan(const SeriesSettings& settings) : settings_(settings) { st_.z0 = settings.z0; }
+void TakePoint(numerics::TwoPortState& st, double f, const SeriesSettings& settings,
+               std::optional<AnalysisPoint>& analysis, FileFigures& out) {
+  if (settings.withLgnd) InsertGroundInductance(st, f, settings.lgnd);
+  const PointFigures p = ComputePointFigures(st);
+  if (f <= settings.fo) analysis = AnalysisPoint{f, st.s, p};
+  TrackStabilityLimit(p.k, f, out.fk);
+}
 
-  // The S-parameters of the next point go here before TakePoint.
-  numerics::TwoPortState& State() { return st_; }
+void TakeComment(std::string_view comment, const SeriesSettings& settings, FileFigures& out) {
+  if (settings.xAxis != XAxisChoice::CurrentIc) return;
+  if (const std::optional<double> current = BiasCurrentFromComment(comment)) out.current = *current;
+}
 
-  void TakeComment(std::string_view comment) {
-    if (settings_.xAxis != XAxisChoice::CurrentIc) return;
-    if (const std::optional<double> current = BiasCurrentFromComment(comment)) out_.current = *current;
-  }
-
-  void TakePoint(double f) {
-    if (settings_.withLgnd) InsertGroundInductance(st_, f, settings_.lgnd);
-    const PointFigures p = ComputePointFigures(st_);
-    if (f <= settings_.fo) analysis_ = AnalysisPoint{f, st_.s, p};
-    TrackStabilityLimit(p.k, f, out_.fk);
-  }
-
-  FileFigures Finish() {
-    if (analysis_) TakeAnalysisValues(*analysis_);
-    return out_;
-  }
-
- private:
-  // The gains are extrapolated to unity with -20 dB per decade. Every point at or below fo would
-  // overwrite these values, so they are taken once, from the last such point; its current gain
-  // is computed only then, from the same guarded S-parameters.
-  void TakeAnalysisValues(const AnalysisPoint& point) {
-    st_.s = point.s;
-    const CurrentGain current = ComputeCurrentGain(st_);
-    const PointFigures& p = point.figures;
-    const numerics::Extended gain = settings_.fmaxFromU ? p.u : p.bestGain;
-    out_.fT = static_cast<double>(numerics::Extended{current.h21} * point.f);
-    out_.fmax = static_cast<double>(std::sqrt(std::fabs(gain)) * point.f);
-    out_.magDb = 10 * numerics::Log10(p.bestGain);
-    out_.s21 = current.s21;
-    out_.k = p.k;
-  }
-
-  const SeriesSettings& settings_;
-  numerics::TwoPortState st_;
-  FileFigures out_;
-  std::optional<AnalysisPoint> analysis_;
-};
-
-// Every line to the end of the file: a noise block's lines are read as points too, as this
-// reading always has.
-FileFigures ScanPlainText(std::string_view content, const std::string& path, const SeriesSettings& settings) {
+// Every line to the end of the file: the lines of a noise block are read as points too.
+FileFigures ScanSeriesText(std::string_view content, const std::string& path, const SeriesSettings& settings) {
   numerics::TextCursor in(content);
-  FileScan scan(settings);
+  numerics::TwoPortState st;
+  st.z0 = settings.z0;
+  FileFigures out;
+  std::optional<AnalysisPoint> analysis;
   for (SeriesLine line = ReadSeriesLine(in); line.kind != SeriesLineKind::EndOfFile; line = ReadSeriesLine(in)) {
-    if (line.kind == SeriesLineKind::Comment) scan.TakeComment(line.comment);
+    if (line.kind == SeriesLineKind::Comment) TakeComment(line.comment, settings, out);
     if (line.kind != SeriesLineKind::Data) continue;
-    ReadPointParameters(in, path, scan.State());
+    ReadPointParameters(in, path, st);
     in.SkipLine();
-    scan.TakePoint(line.frequency * settings.multiplier);
+    TakePoint(st, line.frequency * settings.multiplier, settings, analysis, out);
   }
-  return scan.Finish();
+  if (analysis) TakeAnalysisValues(*analysis, st, settings.fmaxFromU, out);
+  return out;
 }
 
 // Hz per unit of the file's frequency column: the option line's unit with the automatic
@@ -116,14 +100,18 @@ double FrequencyMultiplier(const numerics::TouchstoneData& data, const std::stri
 FileFigures ScanTouchstoneText(std::string_view content, const std::string& path, const SeriesSettings& settings,
                                numerics::ReadNotes& notes) {
   const numerics::TouchstoneData data = numerics::ReadTouchstone(content, path);
-  FileScan scan(settings);
-  for (const std::string& comment : data.comments) scan.TakeComment(comment);
+  numerics::TwoPortState st;
+  st.z0 = settings.z0;
+  FileFigures out;
+  std::optional<AnalysisPoint> analysis;
+  for (const std::string& comment : data.comments) TakeComment(comment, settings, out);
   const double multiplier = FrequencyMultiplier(data, path, settings, notes);
   for (std::size_t i = 0; i < data.frequency.size(); ++i) {
-    numerics::CopyPointToState(numerics::TouchstoneScattering(data, i, settings.z0, path), scan.State());
-    scan.TakePoint(data.frequency[i] * multiplier);
+    numerics::CopyPointToState(numerics::TouchstoneScattering(data, i, settings.z0, path), st);
+    TakePoint(st, data.frequency[i] * multiplier, settings, analysis, out);
   }
-  return scan.Finish();
+  if (analysis) TakeAnalysisValues(*analysis, st, settings.fmaxFromU, out);
+  return out;
 }
 
 FileEvaluation EvaluateSeriesFile(const std::string& path, const SeriesSettings& settings) {
@@ -140,7 +128,7 @@ FileEvaluation EvaluateSeriesText(std::string_view content, const std::string& p
   try {
     file.figures = settings.reading == numerics::FileReading::Touchstone
                        ? ScanTouchstoneText(content, path, settings, file.notes)
-                       : ScanPlainText(content, path, settings);
+                       : ScanSeriesText(content, path, settings);
   } catch (const numerics::ReadFailure& failure) {
     file.error = failure.message;
     if (settings.reading == numerics::FileReading::Plain && numerics::HasTouchstoneLines(content)) {
