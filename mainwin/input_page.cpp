@@ -153,8 +153,8 @@ QWidget* InputPage::MakeMultiplier() {
                                                            {radioButtonMHz_, FrequencyUnit::MHz},
                                                            {radioButtonGHz_, FrequencyUnit::GHz}};
   for (const auto& [button, unit] : units) {
-    connect(button, &QRadioButton::toggled, this, [this, unit](bool checked) {
-      if (checked) unitMultiplier_ = UnitMultiplier(unit);
+    connect(button, &QRadioButton::toggled, this, [this, multiplier = UnitMultiplier(unit)](bool checked) {
+      if (checked) unitMultiplier_ = multiplier;
     });
     layout->addWidget(button);
   }
