@@ -5,6 +5,7 @@
 
 #include "numerics/prefixed_number.h"
 #include "numerics/real_functions.h"
+#include "touchstone_option.h"
 
 namespace app {
 namespace {
@@ -56,6 +57,10 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
   o.gainOptionsGiven = o.gainOptionsGiven || gainOption;
   if (name == "--xlog") {
     o.xlog = true;
+    return {};
+  }
+  if (name == kTouchstoneOption) {
+    o.touchstone = true;
     return {};
   }
   if (name != "--out" && name != "--size" && name != "--chart" && name != "--q" && !gainOption) {

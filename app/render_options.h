@@ -29,6 +29,7 @@ struct RenderOptions {
   bool xlog = false;
   std::string dataPath;
   bool gainOptionsGiven = false;
+  bool touchstone = false;  // read the files as Touchstone files
   std::vector<std::string> files;
 };
 
@@ -41,7 +42,7 @@ struct ParsedRenderOptions {
 std::string ParseSize(const std::string& text, int& width, int& height);
 
 // args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]
-//       [--curves mag,u,mug,s21] [--xlog] [--data CSV] FILE...
+//       [--curves mag,u,mug,s21] [--xlog] [--data CSV] [--touchstone] FILE...
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
 
 }  // namespace app
