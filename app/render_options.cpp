@@ -8,6 +8,7 @@
 
 #include "numerics/prefixed_number.h"
 #include "graphwin/plots/q_table.h"
+#include "touchstone_option.h"
 
 namespace app {
 namespace {
@@ -78,6 +79,10 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
   o.gainOptionsGiven = o.gainOptionsGiven || gainOption;
   if (name == "--xlog") {
     o.xlog = true;
+    return {};
+  }
+  if (name == kTouchstoneOption) {
+    o.touchstone = true;
     return {};
   }
   constexpr std::string_view kValued[] = {"--out",  "--size",    "--chart",   "--q",       "--curves",

@@ -39,6 +39,7 @@ struct RenderOptions {
   std::string parameters = "both";
   std::optional<double> circlesFrequency;
   double s12Zoom = 1;
+  bool touchstone = false;  // read the files as Touchstone files
   std::vector<std::string> files;
 };
 
@@ -52,7 +53,7 @@ std::string ParseSize(const std::string& text, int& width, int& height);
 
 // args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]
 //       [--curves mag,u,mug,s21] [--xlog] [--data CSV] [--mode M] [--param P] [--circles FREQ]
-//       [--s12-zoom F] FILE...
+//       [--s12-zoom F] [--touchstone] FILE...
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
 
 }  // namespace app
