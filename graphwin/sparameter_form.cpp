@@ -60,8 +60,9 @@ void TSParameterForm::ComputeCurves() {
   plot_ = plots::BuildSParameterPlot(Inputs(), window_, choice_, view_, S12Zoom());
 }
 
-// Every activation returns to the window's first display mode.
+// Every activation returns to the window's first display mode at the standard size.
 void TSParameterForm::ResetScale(diagram::Diagram& d) {
+  findChild<QAction*>("Standardgroesse1")->trigger();
   view_ = startView_;
   CheckViewItem();
   ComputeCurves();
