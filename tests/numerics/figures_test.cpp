@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
+#include <string>
 
 #include "numerics/conversions.h"
 #include "numerics/figures.h"
+#include "numerics/file_reader.h"
+#include "numerics/text_file.h"
 #include "textbook.h"
 
 namespace numerics {
@@ -166,6 +170,56 @@ TEST(Figures, GainFiguresAloneEqualTheFullRoutineBitForBit) {
     EXPECT_EQ(Re(alone.s.m12), Re(full.s.m12));
     EXPECT_EQ(Im(alone.detS), Im(full.detS));
   }
+}
+
+// The example files as the reader takes them; the series files' comment and option lines go.
+std::vector<TwoPortDataSet> ExampleDataSets() {
+  std::vector<std::string> paths = {std::string(NETRIX_SOURCE_DIR) + "/examples/amplifier.s2p"};
+  const std::string_view extensions[] = {".s2p"};
+  for (const std::string& p : FilesInFolder(std::string(NETRIX_SOURCE_DIR) + "/examples/series", extensions)) {
+    paths.push_back(p);
+  }
+  std::vector<TwoPortDataSet> sets;
+  for (const std::string& path : paths) {
+    std::string reason;
+    const std::string content = ReadTextFile(path, reason).value();
+    std::string data = "title\n";
+    for (std::size_t at = content.find('\n') + 1; at < content.size(); at = content.find('\n', at) + 1) {
+      if (content[at] != '!' && content[at] != '#') data += content.substr(at, content.find('\n', at) + 1 - at);
+    }
+    DataSetStore store;
+    EXPECT_EQ(LoadTwoPortText(store, data, path).status, LoadStatus::Loaded) << path;
+    sets.push_back(store.sets[0]);
+  }
+  return sets;
+}
+
+TEST(Figures, AgreeWithTheTextbookInLongDoubleOnTheExamples) {
+  int points = 0;
+  for (const TwoPortDataSet& set : ExampleDataSets()) {
+    for (int i = 0; i < set.pointCount; ++i, ++points) {
+      TwoPortState st;
+      CopyPointToState(set.points[static_cast<std::size_t>(i)], st);
+      const M2 s{textbook::FromValue(st.s.m11), textbook::FromValue(st.s.m12), textbook::FromValue(st.s.m21),
+                 textbook::FromValue(st.s.m22)};
+      TwoPortFigures f;
+      ComputeTwoPortFigures(st, {}, f);
+      const textbook::Figures expected = textbook::GainFigures(s);
+      const auto near = [&](double actual, long double reference, const char* name) {
+        EXPECT_NEAR(actual, static_cast<double>(reference), 1e-12 * std::fabs(static_cast<double>(reference)))
+            << name << " at point " << i;
+      };
+      near(f.k, expected.k, "k");
+      near(f.mu, expected.mu, "mu");
+      near(f.muPrime, expected.muPrime, "mu'");
+      near(f.mag, expected.mag, "MAG");
+      near(f.msgOrMag, expected.msgOrMag, "MSG or MAG");
+      near(f.mug, expected.mug, "MUG");
+      near(f.u, expected.u, "U");
+      near(f.uRatio, expected.uRatio, "U ratio");
+    }
+  }
+  EXPECT_EQ(points, 13 * 200);
 }
 
 }  // namespace
