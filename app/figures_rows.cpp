@@ -45,8 +45,8 @@ std::array<double, kValuesPerRow> RowValues(double frequency, const numerics::SP
 
 void AppendNumber(std::string& text, double value) {
   char buffer[32];
-  const std::to_chars_result written = std::to_chars(std::begin(buffer), std::end(buffer), value,
-                          std::chars_format::general, 10);
+  const std::to_chars_result written =
+      std::to_chars(std::begin(buffer), std::end(buffer), value, std::chars_format::general, 10);
   assert(written.ec == std::errc{} && "ten significant digits always fit");
   text.append(buffer, written.ptr);
 }
@@ -65,9 +65,8 @@ void AppendCsvField(std::string& text, std::string_view path) {
 }
 
 void AppendFiguresRows(std::string& text, const numerics::TwoPortDataSet& set, std::string_view firstField) {
-  if (set.pointCount > 0) {
-    text.reserve(text.size() + static_cast<std::size_t>(set.pointCount) * (firstField.size() + kValuesPerRow * (kLongestNumber + 1)));
-  }
+  const std::size_t longestRow = firstField.size() + kValuesPerRow * (kLongestNumber + 1);
+  if (set.pointCount > 0) text.reserve(text.size() + static_cast<std::size_t>(set.pointCount) * longestRow);
   numerics::TwoPortState st;
   for (int i = 0; i < set.pointCount; ++i) {
     const auto index = static_cast<std::size_t>(i);
