@@ -88,7 +88,8 @@ std::vector<std::string> FilesInFolder(const std::string& folder, std::span<cons
   std::vector<std::string> files;
   std::error_code error;
   for (std::filesystem::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
-    if (it->is_regular_file(error) && HasExtension(it->path().string(), extensions)) files.push_back(it->path().string());
+    const std::string path = it->path().string();
+    if (it->is_regular_file(error) && HasExtension(path, extensions)) files.push_back(path);
   }
   std::sort(files.begin(), files.end());
   return files;

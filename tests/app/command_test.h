@@ -42,7 +42,9 @@ class CommandTest : public testing::Test {
     out_.str("");
     err_.str("");
     // netrix hands --render over to the program that links Qt, which runs it so.
-    if (!args.empty() && args.front() == kRenderOption) return RunRenderCommand({args.begin() + 1, args.end()}, out_, err_);
+    if (!args.empty() && args.front() == kRenderOption) {
+      return RunRenderCommand({args.begin() + 1, args.end()}, out_, err_);
+    }
     return RunHeadlessMode(args, out_, err_);
   }
 

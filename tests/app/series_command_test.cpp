@@ -101,7 +101,8 @@ TEST_F(SeriesCommandTest, AFailedRunLeavesTheOutputFileAsItWas) {
 TEST(Help, NamesEveryModeAndOption) {
   std::ostringstream out, err;
   ASSERT_EQ(RunHeadlessMode({"--help"}, out, err), 0);
-  for (const char* text : {"--figures FILE|FOLDER...", "--render VIEW --out PATH", "--render ft-fmax|k-mag|stability-limit",
+  for (const char* text : {"--figures FILE|FOLDER...", "--render VIEW --out PATH",
+                           "--render ft-fmax|k-mag|stability-limit",
                            "--series [options] FILE...", "--multiplier Hz|MHz|GHz", "--x-axis ic|id|fileno"}) {
     EXPECT_NE(out.str().find(text), std::string::npos) << text;
   }

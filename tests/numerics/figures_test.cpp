@@ -178,8 +178,9 @@ TEST(Figures, AgreeWithTheTextbookInLongDoubleOnTheExamples) {
       TwoPortFigures f, g;
       ComputeTwoPortFigures(st, {}, f);
       ComputeGainFigures(alone, g);  // the same steps, without circles and terminations
-      for (const auto member : {&TwoPortFigures::k, &TwoPortFigures::mu, &TwoPortFigures::muPrime, &TwoPortFigures::mag,
-                                &TwoPortFigures::msgOrMag, &TwoPortFigures::mug, &TwoPortFigures::u, &TwoPortFigures::uRatio}) {
+      for (const auto member : {&TwoPortFigures::k, &TwoPortFigures::mu, &TwoPortFigures::muPrime,
+                                &TwoPortFigures::mag, &TwoPortFigures::msgOrMag, &TwoPortFigures::mug,
+                                &TwoPortFigures::u, &TwoPortFigures::uRatio}) {
         EXPECT_EQ(g.*member, f.*member);
       }
       const textbook::Figures expected = textbook::GainFigures(s);
