@@ -10,6 +10,7 @@
 #include "numerics/file_reader.h"
 #include "numerics/text_file.h"
 #include "ordered_work.h"
+#include "touchstone_option.h"
 
 namespace app {
 namespace {
@@ -30,6 +31,7 @@ struct FiguresBatch {
 struct FileResult {
   std::string rows;
   std::string error;  // empty when the file was read
+  numerics::ReadNotes notes;
 };
 
 FiguresBatch ExpandFolders(const std::vector<std::string>& names) {
@@ -58,16 +60,28 @@ numerics::DataSetStore& ThreadStore() {
   return *store;
 }
 
-FileResult EvaluateFile(const FiguresJob& job, bool withFileColumn) {
-  if (!job.error.empty()) return {{}, job.error};
+FileResult EvaluateFile(const FiguresJob& job, const numerics::ReadingChoice& choice, bool withFileColumn) {
+  if (!job.error.empty()) return {{}, job.error, {}};
   numerics::DataSetStore& store = ThreadStore();
-  const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, job.path);
-  if (outcome.status != numerics::LoadStatus::Loaded) return {{}, outcome.message};
+  const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, job.path, choice);
+  if (outcome.status != numerics::LoadStatus::Loaded) return {{}, outcome.message, {}};
   std::string field;
   if (withFileColumn) AppendCsvField(field, job.path);
-  FileResult result;
+  FileResult result{{}, {}, outcome.notes};
   AppendFiguresRows(result.rows, store.sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)], field);
   return result;
+}
+
+numerics::ReadingChoice SplitReadingChoice(const std::vector<std::string>& args, std::vector<std::string>& names) {
+  numerics::ReadingChoice choice;
+  for (const std::string& arg : args) {
+    if (arg == kTouchstoneOption) {
+      choice.reading = numerics::FileReading::Touchstone;
+    } else {
+      names.push_back(arg);
+    }
+  }
+  return choice;
 }
 
 std::string Header(bool withFileColumn) {
@@ -79,18 +93,21 @@ std::string Header(bool withFileColumn) {
 }  // namespace
 
 int RunFiguresCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-  if (args.empty()) {
+  std::vector<std::string> names;
+  const numerics::ReadingChoice choice = SplitReadingChoice(args, names);
+  if (names.empty()) {
     err << "netrix --figures needs at least one file or folder name, for example: netrix --figures amplifier.s2p\n";
     return 1;
   }
-  const FiguresBatch batch = ExpandFolders(args);
+  const FiguresBatch batch = ExpandFolders(names);
   const bool withFileColumn = batch.jobs.size() > 1 || batch.namesFolder;
   bool headerWritten = false;
   bool allWritten = true;
   ProduceInOrder<FileResult>(
       batch.jobs.size(), std::thread::hardware_concurrency(),
-      [&](std::size_t i) { return EvaluateFile(batch.jobs[i], withFileColumn); },
+      [&](std::size_t i) { return EvaluateFile(batch.jobs[i], choice, withFileColumn); },
       [&](FileResult& file) {
+        for (const std::string& note : file.notes) err << note << '\n';
         if (!file.error.empty()) {
           err << file.error << '\n';
           allWritten = false;

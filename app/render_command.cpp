@@ -1,7 +1,6 @@
 #include "render_command.h"
 
 #include <QPainter>
-#include <filesystem>
 #include <memory>
 #include <ostream>
 
@@ -9,21 +8,33 @@
 #include "numerics/file_reader.h"
 #include "render_options.h"
 #include "render_output.h"
+#include "atomic_file.h"
+#include "gain_view.h"
+#include "graphwin/plots/curve_table.h"
 #include "render_views.h"
 #include "series_render.h"
 
 namespace app {
 namespace {
 
-// Reads the files into a store of the command's own; the first failure is the message.
-std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, RenderScene& scene) {
+// Reads the files into a store of the command's own; the first failure is the message. What a
+// read left out or did not apply goes to err.
+std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, RenderInput& input, std::ostream& err) {
+  const numerics::ReadingChoice choice{o.touchstone ? numerics::FileReading::Touchstone : numerics::FileReading::Plain};
   for (const std::string& file : o.files) {
-    const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, file);
+    const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, file, choice);
     if (outcome.status != numerics::LoadStatus::Loaded) return outcome.message;
-    scene.sets.push_back(&store.sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)]);
-    scene.names.push_back(std::filesystem::path(file).filename().string());
+    for (const std::string& note : outcome.notes) err << note << '\n';
+    input.sets.push_back(&store.sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)]);
   }
   return {};
+}
+
+// The gain view's curves as the window's "Export Curves as CSV..." writes them.
+std::string WriteCurveTable(const RenderInput& input) {
+  std::string error;
+  WriteFileAtomically(input.options.dataPath, graphwin::plots::CurveTableCsv(GainPlotOf(input)), error);
+  return error;
 }
 
 int Fail(std::ostream& err, const std::string& message) {
@@ -50,14 +61,17 @@ int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::o
     return Fail(err, "cannot tell the picture format of \"" + o.outPath + "\"; end the name in " + PictureExtensions());
   }
   const auto store = std::make_unique<numerics::DataSetStore>();
-  RenderScene scene{{}, {}, o.chart, o.qValues, o.spline};
-  if (const std::string failed = LoadFiles(o, *store, scene); !failed.empty()) return Fail(err, failed);
+  RenderInput input{o, {}};
+  if (const std::string failed = LoadFiles(o, *store, input, err); !failed.empty()) return Fail(err, failed);
   const GuiSession session;
   const imageexport::ExportResult written = format->write(o.outPath, o.width, o.height, [&](QPainter& painter) {
     diagram::Canvas canvas(painter, o.width, o.height);
-    view->draw(scene, canvas);
+    view->draw(input, canvas);
   });
   if (!written.Ok()) return Fail(err, written.error);
+  if (!o.dataPath.empty()) {
+    if (const std::string error = WriteCurveTable(input); !error.empty()) return Fail(err, error);
+  }
   return 0;
 }
 

@@ -5,6 +5,7 @@
 
 #include "numerics/prefixed_number.h"
 #include "numerics/real_functions.h"
+#include "touchstone_option.h"
 
 namespace app {
 namespace {
@@ -29,6 +30,22 @@ std::string ParseQ(const std::string& text, RenderOptions& o) {
   return {};
 }
 
+std::string ParseCurves(const std::string& text, RenderOptions& o) {
+  o.gainCurves = {false, false, false, false};
+  std::size_t start = 0;
+  do {
+    const std::size_t comma = text.find(',', start);
+    const std::string name = text.substr(start, comma == std::string::npos ? std::string::npos : comma - start);
+    if (name == "mag") o.gainCurves.mag = true;
+    else if (name == "u") o.gainCurves.mason = true;
+    else if (name == "mug") o.gainCurves.mug = true;
+    else if (name == "s21") o.gainCurves.s21 = true;
+    else return "--curves takes mag, u, mug and s21 joined by commas, not \"" + text + "\"";
+    start = comma == std::string::npos ? comma : comma + 1;
+  } while (start != std::string::npos);
+  return {};
+}
+
 // Handles the option at args[i] (and its value); returns an error text or "".
 std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, RenderOptions& o) {
   const std::string& name = args[i];
@@ -36,7 +53,17 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
     o.spline = false;
     return {};
   }
-  if (name != "--out" && name != "--size" && name != "--chart" && name != "--q") {
+  const bool gainOption = name == "--curves" || name == "--xlog" || name == "--data";
+  o.gainOptionsGiven = o.gainOptionsGiven || gainOption;
+  if (name == "--xlog") {
+    o.xlog = true;
+    return {};
+  }
+  if (name == kTouchstoneOption) {
+    o.touchstone = true;
+    return {};
+  }
+  if (name != "--out" && name != "--size" && name != "--chart" && name != "--q" && !gainOption) {
     return "unknown option \"" + name + "\"";
   }
   if (i + 1 >= args.size()) return name + " needs a value";
@@ -45,6 +72,8 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
   if (name == "--size") return ParseSize(value, o.width, o.height);
   if (name == "--chart") return ParseChart(value, o);
   if (name == "--q") return ParseQ(value, o);
+  if (name == "--curves") return ParseCurves(value, o);
+  if (name == "--data") o.dataPath = value;
   return {};
 }
 
@@ -52,6 +81,7 @@ std::string CheckComplete(const RenderOptions& o) {
   if (o.outPath.empty()) return "--out PATH is missing, for example --out smith.png";
   if (o.files.empty()) return "name one to four S-parameter files to draw";
   if (o.files.size() > kMaxRenderFiles) return "no more than 4 files can be drawn at once";
+  if (o.gainOptionsGiven && o.view != kGainView) return "--curves, --xlog and --data belong to the gain view";
   return {};
 }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "diagram/smith_chart.h"
+#include "graphwin/plots/gain_plot.h"
 
 // The command line of netrix --render, parsed but not yet checked against the views, the
 // picture formats and the file system.
@@ -13,6 +14,7 @@ inline constexpr int kMaxRenderFiles = 4;
 inline constexpr int kMaxQArcs = 6;
 inline constexpr int kMinRenderSide = 64;
 inline constexpr int kMaxRenderSide = 10000;
+inline constexpr const char* kGainView = "gain";
 
 struct RenderOptions {
   std::string view;
@@ -22,6 +24,12 @@ struct RenderOptions {
   diagram::ChartKind chart = diagram::ChartKind::Impedance;
   std::vector<double> qValues;
   bool spline = true;
+  // The gain view's: the curves drawn, a logarithmic frequency axis, the CSV file of the curves.
+  graphwin::plots::GainChoice gainCurves;
+  bool xlog = false;
+  std::string dataPath;
+  bool gainOptionsGiven = false;
+  bool touchstone = false;  // read the files as Touchstone files
   std::vector<std::string> files;
 };
 
@@ -33,7 +41,8 @@ struct ParsedRenderOptions {
 // Reads "WIDTHxHEIGHT" with sides from 64 to 10000 pixels; returns an error text or "".
 std::string ParseSize(const std::string& text, int& width, int& height);
 
-// args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline] FILE...
+// args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]
+//       [--curves mag,u,mug,s21] [--xlog] [--data CSV] [--touchstone] FILE...
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
 
 }  // namespace app

@@ -19,7 +19,7 @@
 #include "diagram/canvas.h"
 #include "mainwin/form_set.h"
 #include "mainwin/main_window.h"
-#include "mainwin/message_box.h"
+#include "controls/message_box.h"
 #include "diagram/pages/page_graphs.h"
 
 namespace {
@@ -82,7 +82,7 @@ QStringList FortyFiles() {
 void BM_DropFortyFilesWithAutoCalculate(benchmark::State& state) {
   QTemporaryDir configuration;
   qputenv("XDG_CONFIG_HOME", configuration.path().toUtf8());
-  mainwin::MessageInterception silent([&state](const QString& text) { state.SkipWithError(qPrintable(text)); });
+  controls::MessageInterception silent([&state](const QString& text) { state.SkipWithError(qPrintable(text)); });
   mainwin::FormSet forms({});
   mainwin::TSDIAppForm& window = *forms.SDIAppForm();
   window.findChild<QTabBar*>("TabSet1")->setCurrentIndex(1);

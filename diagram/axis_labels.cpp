@@ -13,22 +13,39 @@
 namespace diagram {
 namespace {
 
-constexpr int kMostDecimals = 3;
+constexpr int kExactDecimals = 3;  // enough for every label of a round step to read exactly
+constexpr int kMostDecimals = 9;
 
 std::string LabelText(int decimals, double value) {
   return numerics::TrimLeftText(numerics::FormatPrefixed(decimals, value));
 }
 
-// The fewest decimals with which every label, read back, gives its own value.
-int DecimalsFor(const std::vector<double>& values) {
+bool ReadBackExactly(const std::vector<double>& values, int decimals) {
   double largest = 0;
   for (const double v : values) largest = std::max(largest, std::fabs(v));
   const double tolerance = 1e-6 * largest;
-  for (int decimals = 0; decimals < kMostDecimals; ++decimals) {
-    const bool exact = std::all_of(values.begin(), values.end(), [&](double v) {
-      return std::fabs(numerics::ParseValueText(LabelText(decimals, v)).value - v) <= tolerance;
-    });
-    if (exact) return decimals;
+  return std::all_of(values.begin(), values.end(), [&](double v) {
+    return std::fabs(numerics::ParseValueText(LabelText(decimals, v)).value - v) <= tolerance;
+  });
+}
+
+bool NeighboursDiffer(std::vector<double> values, int decimals) {
+  std::sort(values.begin(), values.end());
+  for (std::size_t i = 1; i < values.size(); ++i) {
+    if (LabelText(decimals, values[i - 1]) == LabelText(decimals, values[i])) return false;
+  }
+  return true;
+}
+
+// The fewest decimals with which every label, read back, gives its own value; where that takes
+// more than a few (a narrow span far from zero, an origin off the step), the fewest with which
+// neighbouring labels still differ.
+int DecimalsFor(const std::vector<double>& values) {
+  for (int decimals = 0; decimals < kExactDecimals; ++decimals) {
+    if (ReadBackExactly(values, decimals)) return decimals;
+  }
+  for (int decimals = kExactDecimals; decimals < kMostDecimals; ++decimals) {
+    if (NeighboursDiffer(values, decimals)) return decimals;
   }
   return kMostDecimals;
 }
@@ -56,10 +73,13 @@ void DrawAxisLabels(const Diagram& d, LabelPlacement placement, Canvas& canvas) 
   }
   const int column = XToPixel(d, d.xCross);
   for (const AxisLabel& label : YAxisLabels(d)) {
-    if (label.value == d.yCross) continue;  // the horizontal axis and its labels stand there
     const int width = canvas.TextWidth(label.text);
+    const int height = canvas.TextHeight(label.text);
     const int left = placement.yLabelsRight ? column + 4 : column - 4 - width;
-    canvas.TextOut(left, YToPixel(d, label.value) - canvas.TextHeight(label.text) / 2, label.text);
+    int top = YToPixel(d, label.value) - height / 2;
+    // The label at the crossing stands clear of the horizontal axis's labels.
+    if (label.value == d.yCross) top = placement.xLabelsAbove ? row + 1 : row - height;
+    canvas.TextOut(left, top, label.text);
   }
 }
 

@@ -16,7 +16,7 @@ struct AxisLabel {
 };
 
 // The labels of one axis with the SI-prefix format and just enough decimals for every label to
-// read its exact value (so neighbouring labels differ): "2.5G", "5.0G", "7.5G".
+// read its exact value, or at least to differ from its neighbours: "2.5G", "5.0G", "7.5G".
 std::vector<AxisLabel> XAxisLabels(const Diagram& d);
 std::vector<AxisLabel> YAxisLabels(const Diagram& d);
 
@@ -25,8 +25,9 @@ struct LabelPlacement {
   bool yLabelsRight = false;  // right of the vertical axis instead of left of it
 };
 
-// Centred under (or over) the x ticks, beside the y ticks; the y label at the crossing is left
-// to the horizontal axis. A linear axis whose limits are equal gets no labels.
+// Centred under (or over) the x ticks, beside the y ticks; the y label at the crossing on the
+// other side of the horizontal axis than its labels. A linear axis whose limits are equal gets
+// no labels.
 void DrawAxisLabels(const Diagram& d, LabelPlacement placement, Canvas& canvas);
 
 // The title of the horizontal axis ends left of its arrow head, above the axis (below it with

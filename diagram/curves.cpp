@@ -1,5 +1,6 @@
 #include "curves.h"
 
+#include <algorithm>
 #include <cassert>
 #include <cmath>
 
@@ -94,7 +95,11 @@ void DrawCurveWithText(const Diagram& d, std::span<const double> x, std::span<co
   DrawCurve(d, x, y, count, canvas);
   if (count <= d.firstIndex) return;
   const Pixel p = PixelOf(d, x, y, d.firstIndex);
-  canvas.TextOut(textLeft ? p.column - canvas.TextWidth(text) : p.column, p.row, text);
+  const int width = canvas.TextWidth(text);
+  // A curve that starts at the rim of the picture keeps its name readable.
+  const int left = std::clamp(textLeft ? p.column - width : p.column, 0, std::max(0, canvas.Width() - width));
+  const int top = std::clamp(p.row, 0, std::max(0, canvas.Height() - canvas.TextHeight(text)));
+  canvas.TextOut(left, top, text);
 }
 
 }  // namespace diagram

@@ -30,7 +30,8 @@ void DrawMarkers(const Diagram& d, std::span<const double> x, std::span<const do
                  int count, Canvas& canvas);
 
 // DrawCurve, then the text at the pixel of the curve's first point: starting there, or ending
-// there when textLeft is set (for curves that start near the right-hand edge).
+// there when textLeft is set (for curves that start near the right-hand edge); moved inward
+// where it would leave the picture.
 void DrawCurveWithText(const Diagram& d, std::span<const double> x, std::span<const double> y, bool textLeft,
                        int count, Canvas& canvas, std::string_view text);
 

@@ -33,21 +33,24 @@ void ApplyRangeRule(Axis& a) {
   a.limitCopy = a.max;
 }
 
-// One pixel scale on both axes: the smaller of the two ranges goes to the axis with fewer
-// pixels, the other axis is widened about the origin. Taking the smaller range of each kind
-// keeps the rule stable when a window is resized back and forth.
+void WidenAboutCentre(double& min, double& max, double span) {
+  const double centre = (min + max) / 2;
+  min = centre - span / 2;
+  max = centre + span / 2;
+}
+
+// One pixel scale on both axes, the largest with which both requested ranges stay whole in the
+// frame; the axis with pixels to spare is widened about its centre.
 void FitRoundChart(Diagram& d) {
   const double columns = d.pixRight - d.pixLeft;
   const double rows = d.pixBottom - d.pixTop;
   const double xSpan = d.xMax - d.xMin;
   const double ySpan = d.yMax - d.yMin;
-  const double pixelsPerUnit = std::min(columns, rows) / std::min(xSpan, ySpan);
-  const double xFactor = columns / pixelsPerUnit / xSpan;
-  const double yFactor = rows / pixelsPerUnit / ySpan;
-  d.xMin *= xFactor;
-  d.xMax *= xFactor;
-  d.yMin *= yFactor;
-  d.yMax *= yFactor;
+  if (columns / xSpan > rows / ySpan) {
+    WidenAboutCentre(d.xMin, d.xMax, columns * ySpan / rows);
+  } else {
+    WidenAboutCentre(d.yMin, d.yMax, rows * xSpan / columns);
+  }
   d.xLimitCopy = d.xMax;
   d.yLimitCopy = d.yMax;
 }

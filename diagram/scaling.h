@@ -17,8 +17,8 @@ PixelFrame FrameOf(int width, int height);
 void SetAxisModes(Diagram& d, AxisMode xMode, AxisMode yMode);
 
 // Applies the range rules of the current modes, the logs and the pixel frame of a
-// width x height picture. Polar and Smith diagrams get one pixel scale on both axes: the axis
-// with more pixels gets the wider range, scaled about the origin.
+// width x height picture. Polar and Smith diagrams get one pixel scale on both axes, the
+// largest that keeps both ranges visible: the other axis is widened about its centre.
 void SetupAxes(Diagram& d, int width, int height, double xMax, double xMin, double yMax, double yMin);
 
 // The range rules again for one axis after its limits changed, in the frame of the last

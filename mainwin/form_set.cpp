@@ -4,6 +4,9 @@
 #include <cassert>
 
 #include "about_box.h"
+#include "graphwin/grhilfe.h"
+#include "graphwin/gwin.h"
+#include "graphwin/xmax_dlg.h"
 #include "help_boxes.h"
 #include "main_window.h"
 
@@ -17,6 +20,18 @@ struct FormFactories {
   static QWidget* CreateSDIAppForm(FormSet& forms, const QStringList& arguments) {
     return forms.sdiAppForm_ = new TSDIAppForm(forms, arguments);
   }
+  static QWidget* CreateFormG(FormSet& forms, const QStringList&) {
+    TSDIAppForm* main = forms.sdiAppForm_;
+    forms.formG_ = new graphwin::TFormG([main] { return main->GraphInputs(); }, forms.graphDialogs_);
+    forms.diagramWindows_[static_cast<std::size_t>(graphwin::DiagramWindow::Gain)] = forms.formG_;
+    return forms.formG_;
+  }
+  static QWidget* CreateGRHilfeBox(FormSet& forms, const QStringList&) {
+    return forms.graphDialogs_.help = new graphwin::TGRHilfeBox;
+  }
+  static QWidget* CreateXmaxDlg1(FormSet& forms, const QStringList&) {
+    return forms.graphDialogs_.axisValue = new graphwin::TXmaxDlg1;
+  }
   static QWidget* CreateAboutBox(FormSet& forms, const QStringList&) {
     return forms.aboutBox_ = new TAboutBox;
   }
@@ -27,7 +42,8 @@ struct FormFactories {
     return forms.hilfeBox_ = new THilfeBox;
   }
 
-  static constexpr Factory kCreationOrder[] = {CreateSDIAppForm, CreateAboutBox, CreateHilfeFOMBox, CreateHilfeBox};
+  static constexpr Factory kCreationOrder[] = {CreateSDIAppForm, CreateFormG,    CreateGRHilfeBox, CreateXmaxDlg1,
+                                               CreateAboutBox,   CreateHilfeFOMBox, CreateHilfeBox};
 };
 
 FormSet::FormSet(const QStringList& arguments) {
@@ -41,7 +57,7 @@ FormSet::~FormSet() {
   while (!created_.empty()) created_.pop_back();
 }
 
-QWidget* FormSet::DiagramWindowOf(DiagramWindow window) const {
+graphwin::TGraphForm* FormSet::DiagramWindowOf(graphwin::DiagramWindow window) const {
   const auto index = static_cast<std::size_t>(window);
   assert(index < diagramWindows_.size());
   return diagramWindows_[index];

@@ -5,9 +5,16 @@
 #include <memory>
 #include <vector>
 
-#include "display_mode.h"
+#include "graphwin/display_mode.h"
+#include "graphwin/graph_form.h"
 
 class QWidget;
+
+namespace graphwin {
+class TFormG;
+class TGRHilfeBox;
+class TXmaxDlg1;
+}  // namespace graphwin
 
 namespace mainwin {
 
@@ -30,8 +37,11 @@ class FormSet {
   TAboutBox* AboutBox() const { return aboutBox_; }
   THilfeFOMBox* HilfeFOMBox() const { return hilfeFomBox_; }
   THilfeBox* HilfeBox() const { return hilfeBox_; }
+  graphwin::TFormG* FormG() const { return formG_; }
+  graphwin::TGRHilfeBox* GRHilfeBox() const { return graphDialogs_.help; }
+  graphwin::TXmaxDlg1* XmaxDlg1() const { return graphDialogs_.axisValue; }
   // The graph window of a diagram button; null while that window is not part of the program.
-  QWidget* DiagramWindowOf(DiagramWindow window) const;
+  graphwin::TGraphForm* DiagramWindowOf(graphwin::DiagramWindow window) const;
 
  private:
   friend struct FormFactories;
@@ -41,7 +51,9 @@ class FormSet {
   TAboutBox* aboutBox_ = nullptr;
   THilfeFOMBox* hilfeFomBox_ = nullptr;
   THilfeBox* hilfeBox_ = nullptr;
-  std::array<QWidget*, kDiagramWindowCount> diagramWindows_{};
+  graphwin::TFormG* formG_ = nullptr;
+  graphwin::GraphDialogs graphDialogs_;
+  std::array<graphwin::TGraphForm*, graphwin::kDiagramWindowCount> diagramWindows_{};
 };
 
 // Names the application ("S-Parameter Analysis") and where its per-user settings live.

@@ -12,7 +12,7 @@
 #include <cassert>
 
 #include "controls/spin_button.h"
-#include "message_box.h"
+#include "controls/message_box.h"
 #include "numerics/data_set.h"
 #include "numerics/prefixed_number.h"
 #include "numerics/two_port_state.h"
@@ -66,8 +66,8 @@ QWidget* FrequencyPage::MakeFileColumn() {
 QWidget* FrequencyPage::MakeDiagramButtons() {
   auto* group = new QGroupBox(tr("Diagrams"), this);
   auto* layout = new QGridLayout(group);
-  using W = DiagramWindow;
-  using M = DisplayMode;
+  using W = graphwin::DiagramWindow;
+  using M = graphwin::DisplayMode;
   layout->addWidget(MakeDiagramButton("SpeedButton1", "S11", W::Reflection, M::InputReflection), 0, 0);
   layout->addWidget(MakeDiagramButton("SpeedButton2", "S22", W::Reflection, M::OutputReflection), 0, 1);
   layout->addWidget(MakeDiagramButton("SpeedButton6", "S11 - S22", W::Reflection, M::BothReflections), 0, 2);
@@ -81,8 +81,8 @@ QWidget* FrequencyPage::MakeDiagramButtons() {
   return group;
 }
 
-QPushButton* FrequencyPage::MakeDiagramButton(const char* name, const QString& caption, DiagramWindow window,
-                                              DisplayMode mode) {
+QPushButton* FrequencyPage::MakeDiagramButton(const char* name, const QString& caption,
+                                              graphwin::DiagramWindow window, graphwin::DisplayMode mode) {
   auto* button = new QPushButton(caption, this);
   button->setObjectName(name);
   connect(button, &QPushButton::clicked, this, [this, window, mode] { emit DiagramRequested(window, mode); });
@@ -135,20 +135,28 @@ QWidget* FrequencyPage::MakeDisplayOptions() {
   auto* group = new QGroupBox(tr("Display"), this);
   auto* layout = new QGridLayout(group);
   verbindenCheckBox_ = MakeCheckBox(group, "VerbindenCheckBox", tr("Connect Frequency Points"), true);
-  auto* legend = MakeCheckBox(group, "LegendeCheckBox", tr("Display Legend"), true);
-  legend->setToolTip(tr("Maximum frequency only shown if file is loaded"));
-  legend->setStatusTip(legend->toolTip());
+  legendeCheckBox_ = MakeCheckBox(group, "LegendeCheckBox", tr("Display Legend"), true);
+  legendeCheckBox_->setToolTip(tr("Maximum frequency only shown if file is loaded"));
+  legendeCheckBox_->setStatusTip(legendeCheckBox_->toolTip());
   gleicheFrequenz_ = MakeCheckBox(group, "GleicheFrequenz", tr("Connect Points of Equal Frequencies"), false);
+  splineCheckBox_ = MakeCheckBox(group, "SplineCheckBox", tr("Spline Interpolation"), true);
+  kommentarCheckBox_ = MakeCheckBox(group, "KommentarCheckBox", tr("Display Comment"), false);
+  dateiCheckBox_ = MakeCheckBox(group, "DateiCheckBox", tr("Display File Names"), true);
   layout->addWidget(verbindenCheckBox_, 0, 0);
-  layout->addWidget(MakeCheckBox(group, "SplineCheckBox", tr("Spline Interpolation"), true), 1, 0);
+  layout->addWidget(splineCheckBox_, 1, 0);
   layout->addWidget(gleicheFrequenz_, 2, 0);
-  layout->addWidget(legend, 0, 1);
-  layout->addWidget(MakeCheckBox(group, "KommentarCheckBox", tr("Display Comment"), false), 1, 1);
-  layout->addWidget(MakeCheckBox(group, "DateiCheckBox", tr("Display File Names"), true), 2, 1);
+  layout->addWidget(legendeCheckBox_, 0, 1);
+  layout->addWidget(kommentarCheckBox_, 1, 1);
+  layout->addWidget(dateiCheckBox_, 2, 1);
   return group;
 }
 
 bool FrequencyPage::ConnectFrequencyPoints() const { return verbindenCheckBox_->isChecked(); }
+
+graphwin::plots::DisplayOptions FrequencyPage::DisplayOptions() const {
+  return {verbindenCheckBox_->isChecked(), splineCheckBox_->isChecked(),   legendeCheckBox_->isChecked(),
+          kommentarCheckBox_->isChecked(), gleicheFrequenz_->isChecked(), dateiCheckBox_->isChecked()};
+}
 
 void FrequencyPage::AddFile(const FrequencyFile& file) {
   files_.Add(file);
@@ -163,7 +171,7 @@ void FrequencyPage::AddFile(const FrequencyFile& file) {
 
 void FrequencyPage::SpeedButtonDeleteClick() {
   if (files_.Count() == 0) {
-    ShowMessage(this, tr("No file available!"));
+    controls::ShowMessage(this, tr("No file available!"));
     return;
   }
   numerics::DataSetStore& store = numerics::DataSets();

@@ -2,8 +2,9 @@
 
 #include <QWidget>
 
-#include "display_mode.h"
+#include "graphwin/display_mode.h"
 #include "frequency_files.h"
+#include "graphwin/plots/graph_inputs.h"
 
 class QCheckBox;
 class QGridLayout;
@@ -33,9 +34,11 @@ class FrequencyPage : public QWidget {
   const FrequencyFiles& Files() const { return files_; }
   double Z0() const { return z0_; }
   bool ConnectFrequencyPoints() const;
+  // The check boxes of the display group, as the graph windows read them.
+  graphwin::plots::DisplayOptions DisplayOptions() const;
 
  signals:
-  void DiagramRequested(DiagramWindow window, DisplayMode mode);
+  void DiagramRequested(graphwin::DiagramWindow window, graphwin::DisplayMode mode);
 
  private:
   QWidget* MakeFileColumn();
@@ -43,7 +46,8 @@ class FrequencyPage : public QWidget {
   QWidget* MakeCountAndZ0();
   void AddZ0Entry(QGridLayout& layout, int row);
   QWidget* MakeDisplayOptions();
-  QPushButton* MakeDiagramButton(const char* name, const QString& caption, DiagramWindow window, DisplayMode mode);
+  QPushButton* MakeDiagramButton(const char* name, const QString& caption, graphwin::DiagramWindow window,
+                                 graphwin::DisplayMode mode);
 
   void SpeedButtonDeleteClick();
   void CheckListBox1ClickCheck(QListWidgetItem* item);
@@ -59,6 +63,10 @@ class FrequencyPage : public QWidget {
   controls::TSpinButton* fAnzahlSpinButton_ = nullptr;
   QCheckBox* verbindenCheckBox_ = nullptr;
   QCheckBox* gleicheFrequenz_ = nullptr;
+  QCheckBox* splineCheckBox_ = nullptr;
+  QCheckBox* legendeCheckBox_ = nullptr;
+  QCheckBox* kommentarCheckBox_ = nullptr;
+  QCheckBox* dateiCheckBox_ = nullptr;
   QList<QPushButton*> singleFileButtons_;  // SpeedButton5 and SpeedButton6
   QList<QPushButton*> diagramButtons_;     // every diagram button
 };

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cassert>
 
-#include "message_box.h"
+#include "controls/message_box.h"
 
 namespace mainwin {
 
@@ -18,7 +18,7 @@ THistoryList::THistoryList(QMenu* baseMenu, QAction* baseItem, QObject* parent)
 
 void THistoryList::SetMaxItems(int count) {
   if (count < 1) {
-    ShowMessage(nullptr, QStringLiteral("At least one Item ! You stupid guy ! (or girl)"));
+    controls::ShowMessage(nullptr, QStringLiteral("At least one Item ! You stupid guy ! (or girl)"));
     return;
   }
   maxItems_ = count;

@@ -15,6 +15,8 @@
 #include <QVBoxLayout>
 
 #include "controls/string_align_grid.h"
+#include "graphwin/graph_form.h"
+#include "numerics/data_set.h"
 #include "series/table_cells.h"
 #include "form_set.h"
 #include "frequency_page.h"
@@ -23,7 +25,7 @@
 #include "help_boxes.h"
 #include "history_list.h"
 #include "input_page.h"
-#include "message_box.h"
+#include "controls/message_box.h"
 #include "output_pages.h"
 #include "settings_file.h"
 #include "tools_menu.h"
@@ -139,6 +141,7 @@ void TSDIAppForm::FormCreate(const QStringList& arguments) {
   inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
   QSettings settings;
   restoreGeometry(settings.value(kGeometryKey).toByteArray());
+  RestoreReadingChoice(settings);
   historyList1_->SetRegPath(QStringLiteral("netrix"));
   historyList1_->SetRegKey(QStringLiteral("MRUList1"));
   historyList1_->SetMaxItems(6);
@@ -161,7 +164,7 @@ void TSDIAppForm::WriteIniFile() {
   WriteIniSettings(inputPage_->CurrentSettings(), ini);
   QString error;
   if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !SaveIniFile(path, ini, error)) {
-    ShowMessage(this, tr("The settings could not be saved to ") + path + " (" + error +
+    controls::ShowMessage(this, tr("The settings could not be saved to ") + path + " (" + error +
                           tr("). Make the folder writable to keep them next time!"));
   }
 }
@@ -182,7 +185,7 @@ void TSDIAppForm::closeEvent(QCloseEvent* event) {
 void TSDIAppForm::TabSet1Click(int index) {
   const int page = index + 1;
   if (page >= kFirstOutputPage && series_.SeriesCount() < 2) {
-    ShowMessage(this, tr("Please insert two or more files."));
+    controls::ShowMessage(this, tr("Please insert two or more files."));
     tabSet1_->setCurrentIndex(1);
     return;
   }
@@ -191,16 +194,31 @@ void TSDIAppForm::TabSet1Click(int index) {
   EnterOutputPage(page);
 }
 
-void TSDIAppForm::ShowDiagram(DiagramWindow window, DisplayMode mode) {
+void TSDIAppForm::ShowDiagram(graphwin::DiagramWindow window, graphwin::DisplayMode mode) {
   displayMode_ = mode;
   connectForWindows_ = frequencyPage_->ConnectFrequencyPoints();
-  QWidget* shown = forms_.DiagramWindowOf(window);
+  graphwin::TGraphForm* shown = forms_.DiagramWindowOf(window);
   if (!shown) {
     statusBar()->showMessage(tr("This diagram window is not available yet."));
     return;
   }
-  shown->show();
-  shown->raise();
+  shown->ShowFromMain();
+}
+
+graphwin::plots::GraphInputs TSDIAppForm::GraphInputs() const {
+  graphwin::plots::GraphInputs inputs;
+  const FrequencyFiles& files = frequencyPage_->Files();
+  const numerics::DataSetStore& store = numerics::DataSets();
+  for (int i = 0; i < files.Count(); ++i) {
+    const FrequencyFile& file = files.File(i);
+    inputs.files.push_back({&store.sets[static_cast<std::size_t>(i)], file.path, file.active});
+  }
+  inputs.displayCount = files.DisplayCount();
+  inputs.z0 = frequencyPage_->Z0();
+  inputs.options = frequencyPage_->DisplayOptions();
+  inputs.options.connect = connectForWindows_;
+  inputs.mode = displayMode_;
+  return inputs;
 }
 
 void TSDIAppForm::Help1Click() {
@@ -210,7 +228,7 @@ void TSDIAppForm::Help1Click() {
 }
 
 void TSDIAppForm::VortoHelp1Click() {
-  if (!OpenHelpFile()) ShowMessage(this, tr("Help file not available. Look at Vorto manual in pdf format."));
+  if (!OpenHelpFile()) controls::ShowMessage(this, tr("Help file not available. Look at Vorto manual in pdf format."));
 }
 
 void TSDIAppForm::StayInFront1Click(bool checked) {

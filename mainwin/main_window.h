@@ -7,7 +7,8 @@
 #include <memory>
 #include <vector>
 
-#include "display_mode.h"
+#include "graphwin/display_mode.h"
+#include "graphwin/plots/graph_inputs.h"
 #include "series/series_arrays.h"
 #include "series/series_list.h"
 #include "diagram/pages/page_scene.h"
@@ -18,6 +19,7 @@ class QLineEdit;
 class QMenu;
 class QPainter;
 class QPrinter;
+class QSettings;
 class QStackedWidget;
 class QTabBar;
 class QToolBar;
@@ -55,8 +57,10 @@ class TSDIAppForm : public QMainWindow {
 
   int PageNumber() const { return pageNumber_; }
   // What the last diagram button asked for, and its "Connect Frequency Points" state.
-  DisplayMode CurrentDisplayMode() const { return displayMode_; }
+  graphwin::DisplayMode CurrentDisplayMode() const { return displayMode_; }
   bool ConnectForWindows() const { return connectForWindows_; }
+  // What the graph windows draw from: the files of the frequency page and its display options.
+  graphwin::plots::GraphInputs GraphInputs() const;
   series::SeriesList& Series() { return series_; }
   // The results of the last completed evaluation, one per file of the series.
   const series::SeriesArrays& Results() const { return results_; }
@@ -91,6 +95,9 @@ class TSDIAppForm : public QMainWindow {
   void TabSet1Click(int index);
   void Load1Click();
   void HistoryList1Click(const QString& fileName);
+  void ReadTouchstoneFiles1Click(bool checked);
+  bool ReadsTouchstone() const;
+  void RestoreReadingChoice(const QSettings& settings);
   bool RefuseWhenStoreFull();
   void AppendSeriesFiles(const QStringList& paths);
   void ShowAppendedRows(std::size_t firstIndex);
@@ -125,7 +132,7 @@ class TSDIAppForm : public QMainWindow {
   void PrinterSetup1Click();
   void CopyImage1Click();
   void SaveGraphPicture(bool jpeg);
-  void ShowDiagram(DiagramWindow window, DisplayMode mode);
+  void ShowDiagram(graphwin::DiagramWindow window, graphwin::DisplayMode mode);
   void Help1Click();
   void VortoHelp1Click();
   void StayInFront1Click(bool checked);
@@ -137,7 +144,7 @@ class TSDIAppForm : public QMainWindow {
   series::SeriesList series_;
   series::SeriesArrays results_;
   int pageNumber_ = 1;
-  DisplayMode displayMode_ = DisplayMode::InputReflection;
+  graphwin::DisplayMode displayMode_ = graphwin::DisplayMode::InputReflection;
   bool connectForWindows_ = true;
   QString lastExportFile_;  // the name last chosen for an ASCII export
   QTabBar* tabSet1_ = nullptr;
@@ -154,6 +161,7 @@ class TSDIAppForm : public QMainWindow {
   std::unique_ptr<QPrinter> printer_;
   QMenu* fileMenu_ = nullptr;
   QAction* drucken1_ = nullptr;
+  QAction* readTouchstoneFiles1_ = nullptr;
   THistoryList* historyList1_ = nullptr;
   QFileDialog* openDialog1_ = nullptr;
   QFileDialog* execDialog_ = nullptr;

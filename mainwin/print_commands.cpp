@@ -9,12 +9,12 @@
 #include <QPrinter>
 
 #include "controls/string_align_grid.h"
-#include "dialog_hooks.h"
+#include "controls/dialog_hooks.h"
 #include "graph_image.h"
 #include "graph_page.h"
 #include "imageexport/picture_files.h"
 #include "main_window.h"
-#include "message_box.h"
+#include "controls/message_box.h"
 #include "page_printing.h"
 
 namespace mainwin {
@@ -57,10 +57,11 @@ QPrinter& TSDIAppForm::Printer() {
 
 void TSDIAppForm::PrintSheets(const std::vector<Sheet>& sheets) {
   QPrinter& printer = Printer();
-  if (!ChoosePrinter(this, printer)) return;
+  if (!controls::ChoosePrinter(this, printer)) return;
   QPainter painter;
   if (!painter.begin(&printer)) {
-    ShowMessage(this, tr("The printer could not be started. Check it with \"Printer Setup...\" and print again!"));
+    controls::ShowMessage(
+        this, tr("The printer could not be started. Check it with \"Printer Setup...\" and print again!"));
     return;
   }
   const QRect area(0, 0, printer.width(), printer.height());
@@ -93,7 +94,7 @@ void TSDIAppForm::Drucken1Click() {
 
 bool TSDIAppForm::RefuseWithoutTwoFiles() {
   if (series_.SeriesCount() >= 2) return false;
-  ShowMessage(this, tr("Please insert two or more files."));
+  controls::ShowMessage(this, tr("Please insert two or more files."));
   return true;
 }
 
@@ -123,14 +124,14 @@ void TSDIAppForm::PrintTable1Click() {
   PrintSheets({TableSheet()});
 }
 
-void TSDIAppForm::PrinterSetup1Click() { SetUpPrinter(this, Printer()); }
+void TSDIAppForm::PrinterSetup1Click() { controls::SetUpPrinter(this, Printer()); }
 
 TGraphPage* TSDIAppForm::ShownGraphPage() {
   if (pageNumber_ >= kFirstGraphPage && pageNumber_ < kTablePage) {
     TGraphPage& page = GraphPage(static_cast<OutputPage>(pageNumber_ - kFirstGraphPage));
     if (!page.Image().Picture().isNull()) return &page;
   }
-  ShowMessage(this, tr("There is no graph on this page. Show \"fT, fmax Output\", \"k, MSG, MAG Output\" or "
+  controls::ShowMessage(this, tr("There is no graph on this page. Show \"fT, fmax Output\", \"k, MSG, MAG Output\" or "
                        "\"Stability Limit\" first, then copy or save its graph!"));
   return nullptr;
 }
@@ -142,15 +143,16 @@ void TSDIAppForm::CopyImage1Click() {
 void TSDIAppForm::SaveGraphPicture(bool jpeg) {
   TGraphPage* page = ShownGraphPage();
   if (!page) return;
+  using controls::SaveDialogSetup;
   const SaveDialogSetup setup =
       jpeg ? SaveDialogSetup{"SaveDialogJPG", tr("Save Graph to JPG File"), tr("JPG Files (*.jpg)"), "jpg", QString()}
            : SaveDialogSetup{"SaveDialogBMP", tr("Save Graph to BMP File"), tr("BMP Files (*.bmp)"), "bmp", QString()};
-  const QString path = ChooseSaveFile(this, setup);
+  const QString path = controls::ChooseSaveFile(this, setup);
   if (path.isEmpty()) return;
   const QImage& picture = page->Image().Picture();
   const imageexport::ExportResult written =
       jpeg ? imageexport::SaveJpeg(picture, path.toStdString()) : imageexport::SaveBmp(picture, path.toStdString());
-  if (!written.Ok()) ShowMessage(this, QString::fromStdString(written.error));
+  if (!written.Ok()) controls::ShowMessage(this, QString::fromStdString(written.error));
 }
 
 }  // namespace mainwin

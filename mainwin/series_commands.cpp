@@ -4,14 +4,14 @@
 #include <QLineEdit>
 #include <QSaveFile>
 
-#include "dialog_hooks.h"
+#include "controls/dialog_hooks.h"
 #include "input_page.h"
 #include "main_window.h"
 #include "series/dropped_files.h"
 #include "series/series_evaluation.h"
 #include "series/series_messages.h"
 #include "series/spa_export.h"
-#include "message_box.h"
+#include "controls/message_box.h"
 
 namespace mainwin {
 namespace {
@@ -31,12 +31,14 @@ void TSDIAppForm::AppendSeriesFiles(const QStringList& paths) {
   std::vector<std::string> names;
   for (const QString& path : paths) names.push_back(QFileInfo(path).absoluteFilePath().toStdString());
   const series::DroppedFiles dropped = series::SortOutDroppedPaths(names);
-  if (!dropped.refused.empty()) ShowMessage(this, QString::fromStdString(series::RefusedFilesMessage(dropped.refused)));
+  if (!dropped.refused.empty()) {
+    controls::ShowMessage(this, QString::fromStdString(series::RefusedFilesMessage(dropped.refused)));
+  }
   if (dropped.series.empty()) return;
   const std::size_t first = series_.SeriesCount();
   const series::AppendResult appended = series_.Append(dropped.series);
   if (!appended.message.empty()) {
-    ShowMessage(this, QString::fromStdString(appended.message));
+    controls::ShowMessage(this, QString::fromStdString(appended.message));
     return;
   }
   ShowAppendedRows(first);
@@ -73,10 +75,10 @@ void TSDIAppForm::StringGridFilesSelectCell(int row) {
   const auto index = static_cast<std::size_t>(row - 1);
   const QString text = QString::fromStdString(series::FileValuesText(ShownResults()[index]));
   if (count == 1) {
-    ShowMessage(this, text);
+    controls::ShowMessage(this, text);
     return;
   }
-  if (!AskQuestion(this, text + series::kMoveUpQuestion)) return;
+  if (!controls::AskQuestion(this, text + series::kMoveUpQuestion)) return;
   const std::size_t other = index == 0 ? count - 1 : index - 1;
   series_.MoveUp(index);
   inputPage_->ShowFileRow(row, series_.Path(index));
@@ -87,12 +89,12 @@ void TSDIAppForm::StringGridFilesSelectCell(int row) {
 bool TSDIAppForm::CalculateSeries() {
   const series::SeriesSettings settings = OutputSettings();
   if (settings.density && !(settings.area > 0)) {
-    ShowMessage(this, tr("The current density needs a transistor area above 0 µm². Enter the area, then "
+    controls::ShowMessage(this, tr("The current density needs a transistor area above 0 µm². Enter the area, then "
                          "calculate again!"));
     return false;
   }
   const series::SeriesEvaluation evaluation = series::EvaluateSeries(series_, settings, results_);
-  for (const std::string& message : evaluation.messages) ShowMessage(this, QString::fromStdString(message));
+  for (const std::string& message : evaluation.messages) controls::ShowMessage(this, QString::fromStdString(message));
   return evaluation.completed;
 }
 
@@ -100,7 +102,7 @@ bool TSDIAppForm::CalculateSeries() {
 // and the entries as they are now.
 void TSDIAppForm::ExportData() {
   if (!CalculateSeries()) return;
-  const QString path = ChooseSaveFile(
+  const QString path = controls::ChooseSaveFile(
       this, {"SaveDialogSPA", tr("Save Calculated Data"), tr("Data Files (*.spa)"), QStringLiteral("spa"),
              QStringLiteral("*.spa")});
   if (path.isEmpty()) return;
@@ -109,7 +111,7 @@ void TSDIAppForm::ExportData() {
   series::SeriesSettings settings = OutputSettings();
   settings.comment = editComment3_->text().toStdString();
   const QString error = WriteDataFile(path, series::SpaContent(series_, results_, settings));
-  if (!error.isEmpty()) ShowMessage(this, error);
+  if (!error.isEmpty()) controls::ShowMessage(this, error);
 }
 
 // Files never evaluated show zeros, as a freshly reset result would.
@@ -119,6 +121,10 @@ series::SeriesArrays TSDIAppForm::ShownResults() const {
   return shown;
 }
 
-series::SeriesSettings TSDIAppForm::OutputSettings() const { return inputPage_->EvaluationSettings(); }
+series::SeriesSettings TSDIAppForm::OutputSettings() const {
+  series::SeriesSettings settings = inputPage_->EvaluationSettings();
+  if (ReadsTouchstone()) settings.reading = numerics::FileReading::Touchstone;
+  return settings;
+}
 
 }  // namespace mainwin

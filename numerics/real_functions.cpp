@@ -53,6 +53,8 @@ double Log10(double x) {
   return std::log10(std::fabs(x));
 }
 
+double Decibels(double powerRatio) { return 10 * Log10(powerRatio); }
+
 double Power(double x, double base) {
   if (base == 0) return 0;
   return static_cast<double>(std::exp(static_cast<Extended>(x) * std::log(std::fabs(static_cast<Extended>(base)))));

@@ -17,6 +17,9 @@ double ClampValue(double upper, double lower, double x);
 // ln|x| / ln 10, and kLogOfZero for x = 0.
 double Log10(double x);
 
+// 10 log10 of a power ratio, with the same guard for 0.
+double Decibels(double powerRatio);
+
 // exp(x * ln|base|); 0 for base 0, so a negative base counts as its magnitude.
 double Power(double x, double base);
 

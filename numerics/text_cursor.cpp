@@ -104,6 +104,18 @@ double ToDouble(const DecimalShape& d, std::string_view text) {
 
 }  // namespace
 
+std::optional<double> ParseRealToken(std::string_view token) {
+  std::size_t end = 0;
+  const DecimalShape d = ScanDecimal(token, end);
+  if (!d.valid || end != token.size()) return std::nullopt;
+  return ToDouble(d, token);
+}
+
+bool IsRealToken(std::string_view token) {
+  std::size_t end = 0;
+  return ScanDecimal(token, end).valid && end == token.size();
+}
+
 bool TextCursor::AtEndOfLine() const { return AtEndOfFile() || IsLineBreakAt(text_, pos_); }
 
 std::optional<char> TextCursor::ReadChar() {
@@ -122,13 +134,15 @@ void TextCursor::SkipLine() {
   ConsumeLineBreak();
 }
 
-std::string TextCursor::ReadLine() {
+std::string_view TextCursor::ReadLineView() {
   const std::size_t start = pos_;
   while (!AtEndOfLine()) ++pos_;
-  std::string line(text_.substr(start, pos_ - start));
+  const std::string_view line = text_.substr(start, pos_ - start);
   ConsumeLineBreak();
   return line;
 }
+
+std::string TextCursor::ReadLine() { return std::string(ReadLineView()); }
 
 bool TextCursor::ScanReal(double& value) {
   while (pos_ < text_.size() && IsSeparator(text_[pos_])) ++pos_;

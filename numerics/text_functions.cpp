@@ -1,6 +1,7 @@
 #include "text_functions.h"
 
 #include <charconv>
+#include <cstdio>
 
 namespace numerics {
 
@@ -28,6 +29,12 @@ std::string FloatTextTrimmed(int decimals, double value) {
 }
 
 std::string IntText(std::int32_t value) { return std::to_string(value); }
+
+std::string CsvNumber(double value) {
+  char buffer[40];
+  std::snprintf(buffer, sizeof buffer, "%.10g", value);
+  return buffer;
+}
 
 std::string UpperCaseText(std::string_view text) {
   std::string result(text);

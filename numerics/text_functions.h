@@ -21,6 +21,9 @@ std::string FloatTextTrimmed(int decimals, double value);
 
 std::string IntText(std::int32_t value);
 
+// Ten significant digits, as the CSV outputs write every number ("%.10g").
+std::string CsvNumber(double value);
+
 // Upper case for a to z, and the OEM code-page umlauts 0x81, 0x84, 0x94 to 0x9A, 0x8E, 0x99.
 std::string UpperCaseText(std::string_view text);
 

@@ -5,9 +5,11 @@
 #include <cmath>
 #include <span>
 
+#include "diagram/autoscale.h"
 #include "diagram/axes.h"
 #include "diagram/current.h"
 #include "diagram/curves.h"
+#include "diagram/frame.h"
 #include "graph_data.h"
 #include "numerics/rounding.h"
 
@@ -38,41 +40,24 @@ void WidenEmptyRange(double& min, double& max) {
   if (!(max > min)) max = min + (min == 0 ? 1 : std::fabs(min));
 }
 
-void ScaleAxes(const PageGraph& graph, Canvas& c) {
-  diagram::Diagram& d = diagram::CurrentDiagram();
+void ScaleAxes(const PageGraph& graph, diagram::Diagram& d) {
   d = diagram::Diagram{};  // ranges 0 to 1, kept when there is nothing to scale
-  diagram::SetAxisModes(diagram::AxisMode::Linear, diagram::AxisMode::Linear);
   if (!graph.x.empty()) {
     const std::vector<double> x = ScalingValues(graph.x);
-    diagram::AutoscaleX(x, static_cast<int>(x.size()));
+    diagram::AutoscaleX(d, x, static_cast<int>(x.size()));
   }
   const std::vector<double> y = AllY(graph);
-  if (!y.empty()) diagram::AutoscaleY(y, static_cast<int>(y.size()));
+  if (!y.empty()) diagram::AutoscaleY(d, y, static_cast<int>(y.size()));
   if (d.yMax < graph.leastYMax) d.yMax = graph.leastYMax;
   WidenEmptyRange(d.xMin, d.xMax);
   WidenEmptyRange(d.yMin, d.yMax);
   d.yStep = numerics::NiceStep((d.yMax - 0) / 50);
-  diagram::SetupAxes(c, d.xMax, d.xMin, d.yMax, d.yMin);
-  diagram::SetAxisCrossing(d.xCross, d.yCross);
-}
-
-void DrawFrame(const PageGraph& graph, Canvas& c) {
-  diagram::ClearDiagram(diagram::kWhite, c);
-  c.SetFont(diagram::DiagramFont{});
-  ScaleAxes(graph, c);
-  const diagram::Diagram& d = diagram::CurrentDiagram();
-  diagram::SetDrawColour(diagram::kGrey, c);
-  diagram::DrawGrid(d.xLabelEvery, d.yLabelEvery, c);
-  diagram::SetDrawColour(diagram::kBlack, c);
-  diagram::DrawAxes(false, false, c, d.yStep, d.xStep);
-  diagram::DrawAxisLabels({}, c);
 }
 
 void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
-  DrawFrame(graph, c);
-  diagram::DiagramFont bold;
-  bold.bold = true;
-  c.SetFont(bold);
+  diagram::Diagram& d = diagram::CurrentDiagram();
+  ScaleAxes(graph, d);
+  diagram::DrawFrame(d, c, diagram::GridFrame(d.xLabelEvery, d.yLabelEvery));
   const int count = static_cast<int>(graph.x.size());
   for (const PlotSeries& s : graph.series) {
     diagram::SetDrawColour(s.colour, c);

@@ -100,6 +100,30 @@ TEST_F(RenderCommandTest, CartesianDrawsTheGainInDecibels) {
   EXPECT_TRUE(red);
 }
 
+// The curve table of the gain view holds, point for point, the numbers of netrix --figures.
+TEST_F(RenderCommandTest, GainCurvesAreTheFiguresColumns) {
+  const std::string csv = Path("gain.csv"), picture = Path("gain.png");
+  ASSERT_EQ(Run({"--render", "gain", "--curves", "s21,mug,u,mag", "--xlog", "--data", csv, "--out", picture, input_}),
+            0)
+      << err_.str();
+  EXPECT_EQ(QImage(QString::fromStdString(picture)).size(), QSize(768, 576));
+  ASSERT_EQ(Run({"--figures", input_}), 0);
+  std::istringstream figures(out_.str()), table(ReadFile(csv));
+  std::string line;
+  std::getline(figures, line);
+  std::getline(table, line);
+  EXPECT_EQ(line, "f_Hz,MSG_or_MAG_dB (dut.s2p),U_dB (dut.s2p),MUG_dB (dut.s2p),S21sq_dB (dut.s2p)");
+  int rows = 0;
+  for (std::string row; std::getline(figures, line) && std::getline(table, row); ++rows) {
+    std::vector<std::string> f;
+    std::istringstream cells(line);
+    for (std::string cell; std::getline(cells, cell, ',');) f.push_back(cell);
+    // f_Hz, MSG_or_MAG_dB, U_dB, MUG_dB, S21sq_dB of the figures' twelve columns
+    EXPECT_EQ(row, f[0] + "," + f[6] + "," + f[8] + "," + f[7] + "," + f[10]);
+  }
+  EXPECT_EQ(rows, 19);
+}
+
 struct ErrorCase {
   const char* name;
   const char* args;  // split at blanks; "@" stands for the fixture, "%" for a path in the folder
@@ -123,7 +147,7 @@ TEST_P(CommandErrorTest, ExitsWithOneAndSaysWhatToDo) {
 INSTANTIATE_TEST_SUITE_P(
     Cases, CommandErrorTest,
     testing::Values(
-        ErrorCase{"render_unknown_view", "--render spider --out % @", "unknown view \"spider\"; use smith, polar or cartesian"},
+        ErrorCase{"render_unknown_view", "--render spider --out % @", "unknown view \"spider\"; use smith, polar, cartesian or gain"},
         ErrorCase{"render_unknown_extension", "--render smith --out x.tif @", "end the name in .png, .bmp, .jpg, .gif or .pdf"},
         ErrorCase{"render_missing_file", "--render smith --out % /nonexistent/amp.s2p", "File /nonexistent/amp.s2p is not present!"},
         ErrorCase{"render_no_file", "--render smith --out %", "name one to four S-parameter files"},
@@ -135,11 +159,12 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorCase{"render_seven_q", "--render smith --q 1 --q 2 --q 3 --q 4 --q 5 --q 6 --q 7 --out % @", "at most six --q arcs"},
         ErrorCase{"render_option_without_value", "--render smith @ --out", "--out needs a value"},
         ErrorCase{"render_unknown_option", "--render smith --colour --out % @", "unknown option \"--colour\""},
+        ErrorCase{"render_gain_option_elsewhere", "--render polar --xlog --out % @", "belong to the gain view"},
+        ErrorCase{"render_bad_curves", "--render gain --curves mag,k --out % @", "--curves takes mag, u, mug and s21"},
         ErrorCase{"render_view_missing", "--render --out % @", "the view comes first"},
         // The views of a bias series take the options of --series.
         ErrorCase{"series_render_no_out", "--render ft-fmax @", "--out PATH is missing"},
         ErrorCase{"series_render_no_file", "--render ft-fmax --out %", "name the files of the bias series"},
-        ErrorCase{"series_render_bad_size", "--render ft-fmax --size 9x9 --out % @", "--size needs WIDTHxHEIGHT"},
         ErrorCase{"series_render_size_without_value", "--render ft-fmax --out % @ --size", "--size needs a value"},
         ErrorCase{"series_render_bad_series_option", "--render ft-fmax --fo high --out % @", "--fo needs a number"},
         ErrorCase{"series_render_unknown_extension", "--render ft-fmax --out x.tif @", "end the name in .png"},

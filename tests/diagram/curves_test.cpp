@@ -90,6 +90,20 @@ TEST_F(CurveTest, TheTextStartsOrEndsAtTheFirstPoint) {
   EXPECT_EQ(CountNotWhite(image, QRect(XToPixel(d_, 2) - 30, row2 + 1, 29, 10)), 0);
 }
 
+// Regression: a name at the left rim of a Smith chart was cut off.
+TEST_F(CurveTest, CurveNamesStayWholeInsideThePicture) {
+  const std::string name = "a rather long name of a curve";
+  const auto ink = [&](double x, double y, bool textLeft) {  // a curve of one point is its name alone
+    Picture p(400, 300);
+    DrawCurveWithText(d_, std::vector<double>{x}, std::vector<double>{y}, textLeft, 1, p.canvas(), name);
+    return CountNotWhite(p.Finish(), QRect(0, 0, 400, 300));
+  };
+  const int whole = ink(5, 5, false);
+  EXPECT_GT(whole, 50);
+  EXPECT_EQ(ink(0, 5, true), whole);    // would end left of the picture
+  EXPECT_EQ(ink(10, 0, false), whole);  // would run out on the right
+}
+
 // The argument-free entry points pass their arguments on in the order the names give them.
 TEST(CurrentDiagram, EntryPointsWorkOnTheProgramWideState) {
   test::Picture p(400, 300);

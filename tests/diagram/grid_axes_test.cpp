@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "diagram/axes.h"
+#include "diagram/axis_labels.h"
 #include "diagram/canvas.h"
 #include "diagram/fonts.h"
 #include "diagram/grid.h"
@@ -75,6 +76,20 @@ TEST(Grid, LinearLinesAreDottedGreyAtEveryNthStepButNotOnTheAxis) {
   EXPECT_EQ(CountNotWhite(image, QRect(48 + 159, 150, 1, 113)), 0);
   EXPECT_EQ(CountNotWhite(image, QRect(48, 150, 2, 100)), 0);
   EXPECT_GT(CountNotWhite(image, QRect(48, 145, 318, 1)), 318 / 4);  // y = 5
+}
+
+// Regression: a dB axis crossed at 0 had no "0" beside it.
+TEST(AxisLabels, TheVerticalAxisIsLabelledAtTheCrossing) {
+  Diagram d;
+  SetupAxes(d, 400, 300, 10, 0, 40, -20);
+  SetAxisCrossing(d, 0, 0);
+  d.xStep = d.yStep = 10;
+  d.xLabelEvery = d.yLabelEvery = 1;
+  Picture p(400, 300);
+  DrawAxisLabels(d, {}, p.canvas());
+  const QImage& image = p.Finish();
+  const int row = YToPixel(d, 0);
+  EXPECT_GT(CountNotWhite(image, QRect(d.pixLeft - 20, row - 5, 16, 9)), 5);
 }
 
 TEST(Grid, PolarCirclesStayOneStepInsideTheSmallerRange) {

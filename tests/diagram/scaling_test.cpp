@@ -109,44 +109,49 @@ TEST(PixelMapping, PixelToWorldInvertsTheLinearMapping) {
   EXPECT_FALSE(IsInsideFrame(d, 300, 526));
 }
 
-TEST(PolarRange, KeepsTheOriginInsideAndAPositiveMaximum) {
+struct RoundCase {
+  const char* name;
+  AxisMode mode;
+  int width, height;
+  double xMax, xMin, yMax, yMin;  // as asked for
+  double fittedXMin, fittedXMax, fittedYMin, fittedYMax;
+};
+void PrintTo(const RoundCase& c, std::ostream* os) { *os << c.name; }
+
+class RoundChartTest : public testing::TestWithParam<RoundCase> {};
+
+// Frames: 600 x 600 has 498 columns and 506 rows, 768 x 576 650 by 484, 576 x 768 476 by 658.
+TEST_P(RoundChartTest, KeepsTheWholeRangeWithOnePixelScale) {
+  const RoundCase& c = GetParam();
   Diagram d;
-  SetAxisModes(d, AxisMode::Polar, AxisMode::Polar);
-  SetupAxes(d, 768, 576, 0.5, -0.3, 0, 0);  // y limits both 0: the range becomes 0 .. 1
-  EXPECT_DOUBLE_EQ(d.yMin, 0);
-  EXPECT_GT(d.yMax, 0);
-  EXPECT_DOUBLE_EQ(d.xMin / d.xMax, -0.6);  // widened about the origin, not shifted
-  SetupAxes(d, 768, 576, -0.5, -2, 0, -2);  // x max negative: its magnitude; y max 0: |min|
-  EXPECT_DOUBLE_EQ(d.xMin / d.xMax, -4);
-  EXPECT_DOUBLE_EQ(d.yMin / d.yMax, -1);
+  SetAxisModes(d, c.mode, c.mode);
+  SetupAxes(d, c.width, c.height, c.xMax, c.xMin, c.yMax, c.yMin);
+  EXPECT_NEAR(d.xMin, c.fittedXMin, 1e-12);
+  EXPECT_NEAR(d.xMax, c.fittedXMax, 1e-12);
+  EXPECT_NEAR(d.yMin, c.fittedYMin, 1e-12);
+  EXPECT_NEAR(d.yMax, c.fittedYMax, 1e-12);
+  const double across = (d.pixRight - d.pixLeft) / (d.xMax - d.xMin);
+  const double down = (d.pixBottom - d.pixTop) / (d.yMax - d.yMin);
+  EXPECT_NEAR(across, down, 1e-9);
+  const Diagram fitted = d;  // fitting a fitted range changes nothing
+  SetupAxes(d, c.width, c.height, d.xMax, d.xMin, d.yMax, d.yMin);
+  EXPECT_NEAR(d.xMax, fitted.xMax, 1e-12);
+  EXPECT_NEAR(d.yMax, fitted.yMax, 1e-12);
 }
 
-TEST(RoundChart, OnePixelScaleOnBothAxes) {
-  Diagram d;
-  SetAxisModes(d, AxisMode::Smith, AxisMode::Smith);
-  SetupAxes(d, 768, 576, 1, -1, 1, -1);
-  // 484 rows hold -1 .. 1, so 650 columns hold -650/484 .. 650/484.
-  EXPECT_DOUBLE_EQ(d.yMin, -1);
-  EXPECT_DOUBLE_EQ(d.yMax, 1);
-  EXPECT_DOUBLE_EQ(d.xMax, 650.0 / 484);
-  EXPECT_DOUBLE_EQ(d.xMin, -650.0 / 484);
-  const int across = XToPixel(d, 1) - XToPixel(d, -1);
-  const int down = YToPixel(d, -1) - YToPixel(d, 1);
-  EXPECT_LE(std::abs(across - down), 1);
-}
-
-TEST(RoundChart, StaysPutWhenTheWindowTurnsAndTurnsBack) {
-  Diagram d;
-  SetAxisModes(d, AxisMode::Polar, AxisMode::Polar);
-  SetupAxes(d, 768, 576, 1, -1, 1, -1);
-  const Diagram landscape = d;
-  SetupAxes(d, 576, 768, d.xMax, d.xMin, d.yMax, d.yMin);
-  EXPECT_DOUBLE_EQ(d.xMax, 1);  // 0.9 * 576 - 42 = 476 columns for -1 .. 1
-  EXPECT_DOUBLE_EQ(d.yMax, (708.0 - 50) / 476);
-  SetupAxes(d, 768, 576, d.xMax, d.xMin, d.yMax, d.yMin);
-  EXPECT_DOUBLE_EQ(d.xMax, landscape.xMax);
-  EXPECT_DOUBLE_EQ(d.yMax, landscape.yMax);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Cases, RoundChartTest,
+    testing::Values(
+        // Regression: x came out -1 .. 1, and the data beyond it was clamped to the frame.
+        RoundCase{"wide range in a square picture", AxisMode::Polar, 600, 600, 2, -2, 1, -1,
+                  -2, 2, -506.0 / 249, 506.0 / 249},
+        RoundCase{"Smith chart in a landscape picture", AxisMode::Smith, 768, 576, 1, -1, 1, -1,
+                  -650.0 / 484, 650.0 / 484, -1, 1},
+        RoundCase{"Smith chart in a portrait picture", AxisMode::Smith, 576, 768, 1, -1, 1, -1,
+                  -1, 1, -658.0 / 476, 658.0 / 476},
+        // y: both limits 0 give 0 .. 1; x keeps its span 0.8, widened to 650/484 about 0.1.
+        RoundCase{"polar range rule, then widened about the centre", AxisMode::Polar, 768, 576, 0.5, -0.3, 0, 0,
+                  0.1 - 325.0 / 484, 0.1 + 325.0 / 484, 0, 1}));
 
 TEST(RecomputeAxis, AppliesTheRangeRuleInTheLastFrame) {
   Diagram d;

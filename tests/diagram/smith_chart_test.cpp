@@ -99,7 +99,7 @@ TEST_P(ConstantQTest, EveryPointOfBothArcsHasThatQ) {
   EXPECT_NEAR(top.im, arcs.s, 1e-12);
 }
 
-INSTANTIATE_TEST_SUITE_P(Values, ConstantQTest, testing::Values(0.01, 0.5, 1.0, 5.0, 100.0, 10000.0));
+INSTANTIATE_TEST_SUITE_P(Values, ConstantQTest, testing::Values(0.01, 1.0, 10000.0));
 
 using test::CountNotWhiteOutside;
 using test::HasColourNear;

@@ -62,7 +62,7 @@ void PrintTo(const LabelCase& c, std::ostream* os) { *os << c.name; }
 
 class AxisLabelTextTest : public testing::TestWithParam<LabelCase> {};
 
-TEST_P(AxisLabelTextTest, TakeTheFewestDecimalsThatReadBackExactly) {
+TEST_P(AxisLabelTextTest, TakeTheFewestDecimalsThatReadBackExactlyOrDiffer) {
   const LabelCase& c = GetParam();
   Diagram d;
   SetAxisModes(d, c.mode, AxisMode::Linear);
@@ -86,6 +86,9 @@ INSTANTIATE_TEST_SUITE_P(
         LabelCase{"decades need none", AxisMode::Log, false, 1e7, 1e10, 1, {"10M", "100M", "1G"}},
         LabelCase{"quarter steps of a reflection coefficient", AxisMode::Linear, true, -1, 1, 0.05,
                   {"0.0", "0.25", "0.50", "0.75", "1.00", "-0.25", "-0.50", "-0.75", "-1.00"}},
+        // Regression: three decimals read "1.000G" twice on a 2 MHz wide axis.
+        LabelCase{"narrow span far from zero", AxisMode::Linear, false, 1e9, 1.002e9, 1e5,
+                  {"1.0000G", "1.0005G", "1.0010G", "1.0015G", "1.0020G"}},
         LabelCase{"equal linear limits get none", AxisMode::Linear, false, 3, 3, 1, {}}));
 
 }  // namespace

@@ -31,10 +31,9 @@ QString WriteBrokenFile(const QTemporaryDir& dir, const QString& name) {
                       "Broken\n100M 0.5 -30 4 150 0.05 60 0.4 -20\n200M 0.5 x -30 4 150 0.05 60 0.4 -20\n");
 }
 
-QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment, bool stable) {
+QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment) {
   QString text = "! Bias point " + name + "\n" + comment + "\n# MHz S MA R 50\n";
-  const char* parameters = stable ? " 0.3 -30 2 150 0.01 60 0.3 -20\n" : " 0.9 -30 5 150 0.1 60 0.9 -20\n";
-  for (int f = 500; f <= 4000; f += 500) text += QString::number(f) + parameters;
+  for (int f = 500; f <= 4000; f += 500) text += QString::number(f) + " 0.3 -30 2 150 0.01 60 0.3 -20\n";
   return WriteFixture(dir.filePath(name), text);
 }
 
@@ -62,12 +61,12 @@ QuestionLog::QuestionLog(bool answer)
 
 DialogAnswers::DialogAnswers(const QString& savePath, const QString& pdfPath)
     : interception_(
-          [this, savePath](const mainwin::SaveDialogSetup& setup) {
+          [this, savePath](const controls::SaveDialogSetup& setup) {
             saveTitles_.append(setup.title);
             return savePath;
           },
-          [this, pdfPath](mainwin::PrinterDialog dialog, QPrinter& printer) {
-            if (dialog == mainwin::PrinterDialog::Print) ++printDialogs_;
+          [this, pdfPath](controls::PrinterDialog dialog, QPrinter& printer) {
+            if (dialog == controls::PrinterDialog::Print) ++printDialogs_;
             printer.setOutputFormat(QPrinter::PdfFormat);
             printer.setOutputFileName(pdfPath);
             return !pdfPath.isEmpty();

@@ -7,10 +7,10 @@
 #include <QTest>
 #include <memory>
 
-#include "mainwin/dialog_hooks.h"
+#include "controls/dialog_hooks.h"
 #include "mainwin/form_set.h"
 #include "mainwin/main_window.h"
-#include "mainwin/message_box.h"
+#include "controls/message_box.h"
 
 // Small data files made for the tests, the window under test, and the messages it would have shown.
 namespace mainwin_test {
@@ -45,9 +45,8 @@ QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int poin
 // A file whose second data line holds a letter where a number must be.
 QString WriteBrokenFile(const QTemporaryDir& dir, const QString& name);
 // A bias-series file: a comment line such as "! Ic=2m" (empty for none), "# MHz S MA R 50" and
-// points from 500 MHz to 4 GHz. A stable device has k far above 1 at every point (its limit is
-// 500 MHz), an unstable one k near 0.43.
-QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment, bool stable = true);
+// points from 500 MHz to 4 GHz of a device with k far above 1 at every point (its limit is 500 MHz).
+QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment);
 // Writes netrix.ini in the test's configuration folder.
 void WriteSettingsFile(const QString& text);
 QString ReadSettingsFile();
@@ -60,7 +59,7 @@ class MessageLog {
 
  private:
   QStringList messages_;
-  mainwin::MessageInterception interception_;
+  controls::MessageInterception interception_;
 };
 
 // Answers every Yes/No question with the same answer and keeps the questions.
@@ -71,7 +70,7 @@ class QuestionLog {
 
  private:
   QStringList questions_;
-  mainwin::QuestionInterception interception_;
+  controls::QuestionInterception interception_;
 };
 
 // Answers the save dialogs with one path (empty: cancelled) and the print dialogs by printing to
@@ -85,7 +84,7 @@ class DialogAnswers {
  private:
   QStringList saveTitles_;
   int printDialogs_ = 0;
-  mainwin::DialogInterception interception_;
+  controls::DialogInterception interception_;
 };
 
 // The number of pages of a PDF file that QPrinter wrote; -1 when the file is missing.

@@ -8,16 +8,18 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSettings>
+#include <QStatusBar>
 #include <QTimer>
 #include <QToolButton>
 
 #include "controls/spin_button.h"
+#include "graphwin/gwin.h"
 #include "fixtures.h"
 #include "mainwin/history_list.h"
 #include "numerics/data_set.h"
 #include "numerics/two_port_state.h"
 
-Q_DECLARE_METATYPE(mainwin::DisplayMode)
+Q_DECLARE_METATYPE(graphwin::DisplayMode)
 
 namespace {
 
@@ -52,6 +54,7 @@ class FrequencyPageTest : public QObject, mainwin_test::WindowSession {
   void Z0IsLimited();
   void DiagramButtonSetsDisplayMode_data();
   void DiagramButtonSetsDisplayMode();
+  void GainWindowTakesThePageAsItIs();
 
  private:
   QString File(int i, int points = 5) {
@@ -223,7 +226,7 @@ void FrequencyPageTest::Z0IsLimited() {
 }
 
 void FrequencyPageTest::DiagramButtonSetsDisplayMode_data() {
-  using M = mainwin::DisplayMode;
+  using M = graphwin::DisplayMode;
   QTest::addColumn<QString>("button");
   QTest::addColumn<M>("mode");
   QTest::addColumn<bool>("connect");
@@ -240,13 +243,32 @@ void FrequencyPageTest::DiagramButtonSetsDisplayMode_data() {
 
 void FrequencyPageTest::DiagramButtonSetsDisplayMode() {
   QFETCH(QString, button);
-  QFETCH(mainwin::DisplayMode, mode);
+  QFETCH(graphwin::DisplayMode, mode);
   QFETCH(bool, connect);
   Start({File(1)});
   Find<QCheckBox>("VerbindenCheckBox")->setChecked(connect);
   QTest::mouseClick(Find<QPushButton>(qPrintable(button)), Qt::LeftButton);
   QCOMPARE(Window().CurrentDisplayMode(), mode);
   QCOMPARE(Window().ConnectForWindows(), connect);
+}
+
+void FrequencyPageTest::GainWindowTakesThePageAsItIs() {
+  Start({File(1), File(2, 3)});
+  Find<QListWidget>("CheckListBox1")->item(1)->setCheckState(Qt::Unchecked);
+  Find<controls::TSpinButton>("fAnzahlSpinButton")->DownButton()->click();
+  Find<QCheckBox>("DateiCheckBox")->setChecked(false);
+  Find<QCheckBox>("KommentarCheckBox")->setChecked(true);
+  Find<QCheckBox>("VerbindenCheckBox")->setChecked(false);
+  QTest::mouseClick(Find<QPushButton>("SpeedButtonGain"), Qt::LeftButton);
+  QVERIFY(forms_->FormG()->isVisible());
+  const graphwin::plots::FrequencyPlot& plot = forms_->FormG()->Plot();
+  QCOMPARE(plot.curves.size(), std::size_t{1});  // the unchecked file is left out
+  QCOMPARE(plot.curves[0].name, std::string("MAG/MSG"));
+  QCOMPARE(plot.curves[0].frequency.size(), std::size_t{4});  // the display count
+  QCOMPARE(plot.comment, std::string("Test device p1.s2p"));
+  QVERIFY(!Window().GraphInputs().options.connect);
+  QTest::mouseClick(Find<QPushButton>("SpeedButtonk"), Qt::LeftButton);  // its window comes later
+  QCOMPARE(Window().statusBar()->currentMessage(), QStringLiteral("This diagram window is not available yet."));
 }
 
 int RunFrequencyPageTests(int argc, char** argv) {

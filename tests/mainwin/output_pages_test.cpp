@@ -41,8 +41,6 @@ class OutputPagesTest : public QObject, mainwin_test::WindowSession {
   void GraphicMenuRedrawsOnlyFromThePageBefore();
   void YTitleAndLegendFollowTheMenu_data();
   void YTitleAndLegendFollowTheMenu();
-  void UnstableDeviceTitle_data();
-  void UnstableDeviceTitle();
   void TableCellsAndCommentEdits_data();
   void TableCellsAndCommentEdits();
   void TableClearsRowsOfRemovedFiles();
@@ -60,7 +58,7 @@ class OutputPagesTest : public QObject, mainwin_test::WindowSession {
 
  private:
   // Files at 2 and 4 mA on page 2, evaluated, with the area 500 square micrometres.
-  QStringList DropTwoFiles(bool stable = true);
+  QStringList DropTwoFiles();
   const mainwin::TGraphImage& Image(OutputPage page) { return Window().GraphPage(page).Image(); }
   diagram::pages::PageGraph Drawn(OutputPage page) {
     return diagram::pages::GraphOf(page, Image(page).Scene());
@@ -75,11 +73,11 @@ void OutputPagesTest::init() {
   QVERIFY(QTest::qWaitForWindowExposed(&Window()));
 }
 
-QStringList OutputPagesTest::DropTwoFiles(bool stable) {
+QStringList OutputPagesTest::DropTwoFiles() {
   ShowTab(1);
   Find<QLineEdit>("AreaEingabe")->setText("500");
-  const QStringList files = {mainwin_test::WriteSeriesFile(dir_, "bias_2mA.s2p", "! Ic=2m", stable),
-                             mainwin_test::WriteSeriesFile(dir_, "bias_4mA.s2p", "! Ic = 4 m", stable)};
+  const QStringList files = {mainwin_test::WriteSeriesFile(dir_, "bias_2mA.s2p", "! Ic=2m"),
+                             mainwin_test::WriteSeriesFile(dir_, "bias_4mA.s2p", "! Ic = 4 m")};
   Window().FilesDropped(files);
   return files;
 }
@@ -117,9 +115,7 @@ void OutputPagesTest::GraphicMenuKeepsOneOfEachPair_data() {
   QTest::addColumn<QStringList>("clicked");
   QTest::addColumn<QStringList>("checked");
   QTest::newRow("fT then fmax") << QStringList{"fTonly1", "fmaxonly1"} << QStringList{"fmaxonly1"};
-  QTest::newRow("fmax then fT") << QStringList{"fmaxonly1", "fTonly1"} << QStringList{"fTonly1"};
   QTest::newRow("k then MAG") << QStringList{"konly1", "MAGMSGonly1"} << QStringList{"MAGMSGonly1"};
-  QTest::newRow("MAG then k") << QStringList{"MAGMSGonly1", "konly1"} << QStringList{"konly1"};
   QTest::newRow("fT twice") << QStringList{"fTonly1", "fTonly1"} << QStringList{};
   QTest::newRow("show fT and MAG") << QStringList{"fmaxonly1", "konly1", "ShowfTandMAG1"}
                                    << QStringList{"fTonly1", "MAGMSGonly1"};
@@ -141,9 +137,7 @@ void OutputPagesTest::GraphicMenuRedrawsOnlyFromThePageBefore_data() {
   QTest::addColumn<OutputPage>("affected");
   QTest::addColumn<bool>("redrawn");
   QTest::newRow("fT on page 2") << 1 << "fTonly1" << OutputPage::FtFmax << true;
-  QTest::newRow("fmax on page 2") << 1 << "fmaxonly1" << OutputPage::FtFmax << true;
   QTest::newRow("MAG on page 3") << 2 << "MAGMSGonly1" << OutputPage::KMag << true;
-  QTest::newRow("k on page 3") << 2 << "konly1" << OutputPage::KMag << true;
   QTest::newRow("k on page 4") << 3 << "konly1" << OutputPage::KMag << false;
   QTest::newRow("k on page 2") << 1 << "konly1" << OutputPage::KMag << false;
 }
@@ -182,21 +176,6 @@ void OutputPagesTest::YTitleAndLegendFollowTheMenu() {
   const char* label = page == OutputPage::FtFmax ? "LabelLegende1" : "LabelLegende2";
   QCOMPARE(Find<QLabel>(label)->isVisible(), legend);
   QCOMPARE(Find<QLabel>(label)->text(), page == OutputPage::FtFmax ? QString("fT - crosses ") : QString("k - crosses "));
-}
-
-void OutputPagesTest::UnstableDeviceTitle_data() {
-  QTest::addColumn<bool>("stable");
-  QTest::addColumn<QString>("title");
-  QTest::newRow("stable") << true << "f(k>1) in Hz";
-  QTest::newRow("unstable") << false << "Sorry! In the whole measured region the device is unstable!";
-}
-
-void OutputPagesTest::UnstableDeviceTitle() {
-  QFETCH(bool, stable);
-  QFETCH(QString, title);
-  DropTwoFiles(stable);
-  ShowTab(4);
-  QCOMPARE(QString::fromStdString(Drawn(OutputPage::StabilityLimit).yTitle), title);
 }
 
 void OutputPagesTest::TableCellsAndCommentEdits_data() {

@@ -4,7 +4,7 @@
 #include <QMessageBox>
 #include <utility>
 
-namespace mainwin {
+namespace controls {
 namespace {
 
 MessageHandler& CurrentHandler() {
@@ -43,4 +43,4 @@ QuestionInterception::QuestionInterception(QuestionHandler handler)
 
 QuestionInterception::~QuestionInterception() { CurrentQuestionHandler() = std::move(previous_); }
 
-}  // namespace mainwin
+}  // namespace controls

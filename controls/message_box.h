@@ -5,9 +5,9 @@
 
 class QWidget;
 
-// Every message box of the main window goes through here, so that a test can answer it instead
+// Every message box of the windows goes through here, so that a test can answer it instead
 // of a person (a modal box would block a headless run).
-namespace mainwin {
+namespace controls {
 
 using MessageHandler = std::function<void(const QString& text)>;
 using QuestionHandler = std::function<bool(const QString& text)>;
@@ -42,4 +42,4 @@ class QuestionInterception {
   QuestionHandler previous_;
 };
 
-}  // namespace mainwin
+}  // namespace controls

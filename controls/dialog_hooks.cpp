@@ -7,7 +7,7 @@
 #include <QSettings>
 #include <utility>
 
-namespace mainwin {
+namespace controls {
 namespace {
 
 const char* const kSaveDirectoryKey = "Dialogs/SaveDirectory";
@@ -19,6 +19,11 @@ SaveFileHandler& SaveFileAnswer() {
 
 PrinterHandler& PrinterAnswer() {
   static PrinterHandler handler;
+  return handler;
+}
+
+ModalHandler& ModalAnswer() {
+  static ModalHandler handler;
   return handler;
 }
 
@@ -51,6 +56,11 @@ bool SetUpPrinter(QWidget* parent, QPrinter& printer) {
   return dialog.exec() == QDialog::Accepted;
 }
 
+int RunModal(QDialog& dialog) {
+  if (ModalAnswer()) return ModalAnswer()(dialog);
+  return dialog.exec();
+}
+
 DialogInterception::DialogInterception(SaveFileHandler saveFile, PrinterHandler printer)
     : previousSaveFile_(std::exchange(SaveFileAnswer(), std::move(saveFile))),
       previousPrinter_(std::exchange(PrinterAnswer(), std::move(printer))) {}
@@ -60,4 +70,9 @@ DialogInterception::~DialogInterception() {
   PrinterAnswer() = std::move(previousPrinter_);
 }
 
-}  // namespace mainwin
+ModalInterception::ModalInterception(ModalHandler handler)
+    : previous_(std::exchange(ModalAnswer(), std::move(handler))) {}
+
+ModalInterception::~ModalInterception() { ModalAnswer() = std::move(previous_); }
+
+}  // namespace controls

@@ -1,7 +1,7 @@
 #pragma once
 
 // What a diagram button of the frequency page asks the graph windows to show.
-namespace mainwin {
+namespace graphwin {
 
 enum class DiagramWindow { Reflection, Transmission, Gain, Stability, Impedance };
 inline constexpr int kDiagramWindowCount = 5;
@@ -18,4 +18,4 @@ enum class DisplayMode {
   Impedance,
 };
 
-}  // namespace mainwin
+}  // namespace graphwin

@@ -1,0 +1,135 @@
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "diagram/canvas.h"
+#include "diagram/diagram_state.h"
+#include "plots/frequency_plot.h"
+#include "plots/graph_inputs.h"
+#include "window_rules.h"
+
+class QAction;
+class QLabel;
+class QMenu;
+class QPrinter;
+class QToolButton;
+
+// The frame, the controls and the handlers that every graph window shares: the menu, the tool
+// bar, the Image with its mouse read-out, zoom, the autoscales, x-log, the dot cycle, the
+// axis-end dialog, the rubber band, the origin, the size commands, copy, the picture files,
+// the curve export and printing. A window adds what it plots, its defaults and its read-out.
+namespace graphwin {
+
+class TDiagramImage;
+class TGRHilfeBox;
+class TXmaxDlg1;
+
+// The dialogs all graph windows share; created after the windows, so filled in later.
+struct GraphDialogs {
+  TGRHilfeBox* help = nullptr;
+  TXmaxDlg1* axisValue = nullptr;
+};
+
+using InputsSource = std::function<plots::GraphInputs()>;
+
+class TGraphForm : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  TGraphForm(const char* name, const QString& caption, InputsSource inputs, const GraphDialogs& dialogs);
+  ~TGraphForm() override;
+
+  // The main window shows the window: it is activated at once, and not once more when the
+  // window manager hands it the focus.
+  void ShowFromMain();
+  // Takes the main window's files and options, resets the ranges to the window's own defaults
+  // (zooms made earlier are not kept), computes the curves and draws.
+  void FormActivate();
+
+  const QImage& Picture() const;
+  // The window's picture drawn afresh at size on any device; the screen's diagram state stays.
+  void PaintPicture(QPainter& painter, QSize size);
+
+ protected:
+  // Window-specific controls go right of the zoom buttons, at these left positions.
+  QWidget* ToolPanel() const { return panel1_; }
+  // A window's own item of the "&File" menu, after the picture saves.
+  QAction* InsertFileItem(const char* name, const QString& caption);
+  const plots::GraphInputs& Inputs() const { return inputs_; }
+  // The page's display options and the dot cycle, as the drawing takes them.
+  plots::PlotLook Look() const;
+  void Redraw();
+  // Writes a text file whole or not at all; a failure is reported.
+  void WriteTextFile(const QString& path, const std::string& text);
+
+  virtual void ComputeCurves() = 0;
+  // The ranges, steps, crossing and label counts the window starts with.
+  virtual void ResetScale(diagram::Diagram& d) = 0;
+  // The window's one drawing routine, on the program-wide diagram state.
+  virtual void DrawPicture(diagram::Canvas& canvas) = 0;
+  virtual std::string ReadOutText(double x, double y) const = 0;
+  virtual Bounds AxisBounds(AxisEnd end) const = 0;
+  // What the autoscales look at.
+  virtual std::vector<double> XValues() const = 0;
+  virtual std::vector<double> YValues() const = 0;
+  // The curves as plotted, as CSV text.
+  virtual std::string CurvesCsv() const = 0;
+
+  bool event(QEvent* event) override;
+
+ private:
+  void BuildMenus();
+  QMenu* BuildFileMenu();
+  QMenu* BuildGraphicMenu();
+  QMenu* BuildScalesMenu();
+  QWidget* BuildToolBar();
+  QWidget* BuildStatusBar();
+  QAction* AddAction(QMenu* menu, const char* name, const QString& caption);
+  QToolButton* AddToolButton(const char* name, int left, const QString& caption, const QString& hint);
+
+  void ImageMouseDown(QPoint at, Qt::MouseButton button);
+  void ImageMouseMove(QPoint at);
+  void ImageMouseUp(QPoint at, Qt::MouseButton button);
+  void ImageDblClick();
+  void AskAxisLimit(AxisEnd end, QPoint at);
+  double AskValue(const QString& label, double value, Bounds bounds, QPoint position);
+  void Ursprungfestlegen1Click();
+  void ZoomButtonClick(bool in);
+  void Autoscale(bool x, bool y);
+  void xlog1Click();
+  void DotButtonClick();
+  void Resize(WindowSize size);
+
+  void Copy1Click();
+  void Save1Click();
+  void SaveasJPEG1Click();
+  void SaveasGIF1Click();
+  void ExportCurves1Click();
+  void Print1Click();
+  QPrinter& Printer();
+
+  InputsSource source_;
+  const GraphDialogs& dialogs_;
+  plots::GraphInputs inputs_;
+  DotState dotState_;
+  bool activated_ = false;
+  bool activateOnReturn_ = false;
+  std::optional<QPointF> rubberStart_;  // world point where the right button went down
+  QString lastPictureFile_;
+  QImage picture_;
+  std::unique_ptr<QPrinter> printer_;
+  QMenu* file1_ = nullptr;
+  QAction* exportCurves1_ = nullptr;  // the window's own file items go before it
+  QWidget* panel1_ = nullptr;
+  TDiagramImage* image_ = nullptr;
+  QLabel* currentPanel_ = nullptr;
+  QAction* xlog1_ = nullptr;
+  QAction* ylog1_ = nullptr;
+};
+
+}  // namespace graphwin

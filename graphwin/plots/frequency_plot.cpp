@@ -1,0 +1,127 @@
+#include "frequency_plot.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+
+#include "diagram/axes.h"
+#include "diagram/axis_labels.h"
+#include "diagram/curves.h"
+#include "diagram/frame.h"
+#include "diagram/scaling.h"
+#include "diagram/spline.h"
+#include "numerics/prefixed_number.h"
+#include "numerics/text_functions.h"
+
+namespace graphwin::plots {
+namespace {
+
+using diagram::Canvas;
+using diagram::Diagram;
+
+constexpr int kMargin = 4;
+constexpr int kLegendSample = 16;  // length of the coloured line before a name in the legend
+
+using Samples = std::array<double, diagram::kSplineCapacity>;
+
+bool RisesStrictly(const std::vector<double>& x) {
+  return std::adjacent_find(x.begin(), x.end(), std::greater_equal<>()) == x.end();
+}
+
+// The curve as drawn: smoothed through the spline where the look asks for it and the curve allows.
+int DrawnPoints(const Diagram& d, const FrequencyCurve& curve, const PlotLook& look, Samples& x, Samples& y) {
+  const int count = static_cast<int>(curve.frequency.size());
+  if (!look.spline || look.straight || count > diagram::kSplineMaxPoints || !RisesStrictly(curve.frequency)) {
+    return -1;
+  }
+  std::copy(curve.frequency.begin(), curve.frequency.end(), x.begin());
+  std::copy(curve.value.begin(), curve.value.end(), y.begin());
+  int last = count - 1;
+  diagram::SplineResample(x, y, last, d.xMode == diagram::AxisMode::Log, false, diagram::kSplineMaxPoints);
+  return last + 1;
+}
+
+void DrawCurve(const Diagram& d, const FrequencyCurve& curve, const PlotLook& look, Canvas& c) {
+  const int count = static_cast<int>(curve.frequency.size());
+  if (count == 0) return;
+  diagram::SetDrawColour(curve.colour, c);
+  if (look.dots) diagram::DrawMarkers(d, curve.frequency, curve.value, diagram::kMarkerCross, count, c);
+  // Unconnected points whose dots are switched off would vanish: they keep their line.
+  const bool lines = look.connect || !look.dots;
+  Samples x{}, y{};
+  const int smoothed = lines ? DrawnPoints(d, curve, look, x, y) : -1;
+  if (smoothed > 0) {
+    diagram::DrawCurveWithText(d, x, y, false, smoothed, c, curve.name);
+  } else {
+    diagram::DrawCurveWithText(d, curve.frequency, curve.value, false, lines ? count : 1, c, curve.name);
+  }
+}
+
+// The title over the frame's right end, clear of the vertical axis's title; the heading and the
+// comment in the bottom line, below the frequency labels.
+void DrawHeadings(const Diagram& d, const FrequencyPlot& plot, Canvas& c) {
+  diagram::SetDrawColour(diagram::kBlack, c);
+  c.TextOut(d.pixRight - c.TextWidth(plot.title), 2, plot.title);
+  const int bottomLine = c.Height() - c.TextHeight(plot.heading) - 2;
+  c.TextOut(kMargin, bottomLine, plot.heading);
+  c.TextOut(d.pixRight - c.TextWidth(plot.comment), bottomLine, plot.comment);
+}
+
+std::string MaximumFrequencyText(const FrequencyPlot& plot) {
+  return "Max. f=" + numerics::TrimLeftText(numerics::FormatPrefixed(2, HighestFrequency(plot))) + "Hz";
+}
+
+// In the upper right corner of the frame: the heading, each curve's name after a line in its
+// colour, and the highest frequency.
+void DrawLegend(const Diagram& d, const FrequencyPlot& plot, Canvas& c) {
+  int width = std::max(c.TextWidth(plot.legendHeading), c.TextWidth(MaximumFrequencyText(plot)));
+  for (const FrequencyCurve& curve : plot.curves) {
+    width = std::max(width, kLegendSample + kMargin + c.TextWidth(curve.name));
+  }
+  const int left = d.pixRight - kMargin - width;
+  const int line = c.TextHeight(plot.legendHeading);
+  int top = d.pixTop + kMargin;
+  diagram::SetDrawColour(diagram::kBlack, c);
+  c.TextOut(left, top, plot.legendHeading);
+  for (const FrequencyCurve& curve : plot.curves) {
+    top += line;
+    diagram::SetDrawColour(curve.colour, c);
+    c.MoveTo(left, top + line / 2);
+    c.LineTo(left + kLegendSample, top + line / 2);
+    c.TextOut(left + kLegendSample + kMargin, top, curve.name);
+  }
+  diagram::SetDrawColour(diagram::kBlack, c);
+  c.TextOut(left, top + line, MaximumFrequencyText(plot));
+}
+
+}  // namespace
+
+std::vector<double> AllFrequencies(const FrequencyPlot& plot) {
+  std::vector<double> all;
+  for (const FrequencyCurve& curve : plot.curves) all.insert(all.end(), curve.frequency.begin(), curve.frequency.end());
+  return all;
+}
+
+std::vector<double> AllValues(const FrequencyPlot& plot) {
+  std::vector<double> all;
+  for (const FrequencyCurve& curve : plot.curves) all.insert(all.end(), curve.value.begin(), curve.value.end());
+  return all;
+}
+
+double HighestFrequency(const FrequencyPlot& plot) {
+  const std::vector<double> all = AllFrequencies(plot);
+  return all.empty() ? 0 : *std::max_element(all.begin(), all.end());
+}
+
+void DrawFrequencyPlot(const FrequencyPlot& plot, const PlotLook& look, Canvas& canvas) {
+  Diagram& d = diagram::CurrentDiagram();
+  diagram::DrawFrame(d, canvas, diagram::GridFrame(d.xLabelEvery, d.yLabelEvery));
+  DrawHeadings(d, plot, canvas);
+  for (const FrequencyCurve& curve : plot.curves) DrawCurve(d, curve, look, canvas);
+  if (look.legend) DrawLegend(d, plot, canvas);
+  diagram::SetDrawColour(diagram::kBlack, canvas);
+  diagram::DrawXTitle(d, plot.xTitle, false, canvas);
+  diagram::DrawYTitle(d, plot.yTitle, canvas);
+}
+
+}  // namespace graphwin::plots

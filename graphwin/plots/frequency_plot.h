@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "diagram/canvas.h"
+#include "diagram/colour.h"
+
+// A diagram of values against frequency, as the gain, stability and impedance windows draw it:
+// one curve per file and figure, named in place, with a heading, a title chosen by the window,
+// a legend and the frequency page's comment. One drawing routine for the screen, the clipboard,
+// the picture files, the printer and netrix --render.
+namespace graphwin::plots {
+
+struct FrequencyCurve {
+  std::string name;    // written at the curve's first point, e.g. "amplifier.s2p, MAG/MSG"
+  std::string column;  // the curve's column in the exported table, with its unit
+  diagram::Colour colour = diagram::kBlack;
+  std::vector<double> frequency;  // Hz, one per point
+  std::vector<double> value;      // what is plotted, one per point
+};
+
+struct FrequencyPlot {
+  std::string heading;        // top left, e.g. "Gain : MAG, MSG, MUG, etc."
+  std::string title;          // top right, naming the curves shown; may be empty
+  std::string legendHeading;  // e.g. "Gain(f) :"
+  std::string xTitle;
+  std::string yTitle;
+  std::string comment;  // the first file's first line, when the page asks for it
+  std::vector<FrequencyCurve> curves;
+};
+
+struct PlotLook {
+  bool connect = true;    // lines between the points
+  bool spline = true;     // the lines smoothed by the spline
+  bool dots = false;      // the measured points marked
+  bool straight = false;  // lines straight from point to point, whatever spline says
+  bool legend = true;
+};
+
+// Every frequency and every value of the curves, for the autoscales.
+std::vector<double> AllFrequencies(const FrequencyPlot& plot);
+std::vector<double> AllValues(const FrequencyPlot& plot);
+// The highest frequency of the curves; 0 without any point.
+double HighestFrequency(const FrequencyPlot& plot);
+
+// The whole picture on the program-wide diagram state, whose modes, ranges, crossing, steps and
+// label counts the window has set; the state is left as drawn.
+void DrawFrequencyPlot(const FrequencyPlot& plot, const PlotLook& look, diagram::Canvas& canvas);
+
+}  // namespace graphwin::plots

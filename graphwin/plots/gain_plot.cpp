@@ -1,0 +1,123 @@
+#include "gain_plot.h"
+
+#include <array>
+#include <cmath>
+
+#include "numerics/figures.h"
+#include "numerics/prefixed_number.h"
+#include "numerics/real_functions.h"
+#include "numerics/rounding.h"
+#include "numerics/text_functions.h"
+
+namespace graphwin::plots {
+namespace {
+
+using numerics::Decibels;
+
+constexpr double kLowestGainDb = -20;
+constexpr double kHighestGainDb = 40;
+constexpr int kGainLabelEvery = 10;
+// Without a point to scale to, the frequency axis still gets a frame.
+constexpr double kFallbackHighestFrequency = 1e10;
+
+struct GainFigure {
+  bool GainChoice::*box;
+  const char* name;
+  const char* column;  // the column name of netrix --figures
+  double (*value)(const numerics::TwoPortState& st, const numerics::TwoPortFigures& f);
+};
+
+constexpr std::array<GainFigure, 4> kFigures = {{
+    {&GainChoice::mag, "MAG/MSG", "MSG_or_MAG_dB", [](const auto&, const auto& f) { return Decibels(f.msgOrMag); }},
+    {&GainChoice::mason, "U", "U_dB", [](const auto&, const auto& f) { return Decibels(f.u); }},
+    {&GainChoice::mug, "MUG", "MUG_dB", [](const auto&, const auto& f) { return Decibels(f.mug); }},
+    {&GainChoice::s21, "|S21|²", "S21sq_dB",
+     [](const auto& st, const auto&) { return Decibels(numerics::AbsSqr(st.s.m21)); }},
+}};
+
+// Each file's curves take the colours in an order of their own, so that the same figure of two
+// files is told apart.
+constexpr std::array<diagram::Colour, 4> kColours = {diagram::kRed, diagram::kGreen, diagram::kBlue,
+                                                     diagram::MakeColour(0xC0, 0, 0xC0)};
+
+void AddFileCurves(const GraphInputs& inputs, const GraphFile& file, std::size_t fileIndex, const GainChoice& choice,
+                   FrequencyPlot& plot) {
+  const std::size_t first = plot.curves.size();
+  const std::string prefix = inputs.options.fileNames ? FileName(file) + ", " : std::string();
+  for (std::size_t f = 0; f < kFigures.size(); ++f) {
+    if (!(choice.*kFigures[f].box)) continue;
+    plot.curves.push_back({prefix + kFigures[f].name, std::string(kFigures[f].column) + " (" + FileName(file) + ")",
+                           kColours[(f + fileIndex) % kColours.size()], {}, {}});
+  }
+  numerics::TwoPortState st;
+  numerics::TwoPortFigures figures;
+  const int points = ShownPoints(inputs, file);
+  for (int i = 0; i < points; ++i) {
+    numerics::CopyPointToState(file.set->points[static_cast<std::size_t>(i)], st);
+    numerics::ComputeGainFigures(st, figures);
+    std::size_t curve = first;
+    for (const GainFigure& figure : kFigures) {
+      if (!(choice.*figure.box)) continue;
+      plot.curves[curve].frequency.push_back(file.set->frequency[static_cast<std::size_t>(i)]);
+      plot.curves[curve++].value.push_back(figure.value(st, figures));
+    }
+  }
+}
+
+}  // namespace
+
+GainChoice AfterGainClick(GainChoice choice, GainBox clicked) {
+  const bool nothingLeft = !choice.mag && !choice.mason && !choice.mug;
+  const bool fromMagOrMason = clicked == GainBox::Mag || clicked == GainBox::Mason;
+  if (nothingLeft && (!fromMagOrMason || !choice.s21)) choice.mag = true;
+  return choice;
+}
+
+std::string GainTitle(const GainChoice& c) {
+  if (c.mug && c.mason && c.mag) return "Mason Gain(f), MAG(f) or MSG(f) and MUG(f)";
+  if (c.mason && c.mag) return "Mason Gain(f), MAG(f) or MSG(f)";
+  if (c.mason && !c.mug) return "Mason Gain(f)";
+  if (c.mag) return "MAG(f) or MSG(f)";
+  return {};
+}
+
+FrequencyPlot BuildGainPlot(const GraphInputs& inputs, const GainChoice& choice) {
+  FrequencyPlot plot{"Gain : MAG, MSG, MUG, etc.", GainTitle(choice), "Gain(f) :", "f in Hz", "Gain in dB", {}, {}};
+  for (std::size_t i = 0; i < inputs.files.size(); ++i) {
+    const GraphFile& file = inputs.files[i];
+    if (!file.active || file.set == nullptr) continue;
+    if (inputs.options.comment && plot.comment.empty()) plot.comment = file.set->title;
+    AddFileCurves(inputs, file, i, choice, plot);
+  }
+  return plot;
+}
+
+void SetGainDefaults(diagram::Diagram& d, double highestFrequency) {
+  d.xMax = numerics::NiceStep(highestFrequency > 0 ? highestFrequency : kFallbackHighestFrequency);
+  d.xMin = d.xMax / 100;
+  d.xStep = numerics::NiceStep(d.xMax / 50);
+  d.yMin = kLowestGainDb;
+  d.yMax = kHighestGainDb;
+  d.yStep = 1;
+  d.xCross = d.xMin;
+  d.yCross = 0;
+  d.xLabelEvery = d.yLabelEvery = kGainLabelEvery;
+  d.firstIndex = 0;
+}
+
+std::string GainTableText(double f0) {
+  std::string text = "Calculated Values by NETRIX : f/Hz MAG/dB MSG/dB MUG/dB Mason/dB   k\n";
+  const double last = numerics::RoundUpOneDigit(2 * f0);
+  const double first = numerics::NiceStep(f0 / 100);
+  const double step = numerics::NiceStep(first / 3);
+  if (!(step > 0)) return text;
+  for (double f = first; !(f > last); f += step) text += numerics::FormatPrefixedField(7, 3, f) + "\n";
+  return text;
+}
+
+std::string GainReadOut(double x, double y) {
+  return "Position : f=" + numerics::FormatPrefixed(2, x) + "Hz, Gain=" + numerics::FloatTextTrimmed(2, y) + "dB (" +
+         numerics::FormatPrefixed(2, std::pow(10.0, y / 10)) + ")";
+}
+
+}  // namespace graphwin::plots

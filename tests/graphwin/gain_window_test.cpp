@@ -1,0 +1,218 @@
+// The gain window driven through its controls by name, on the offscreen platform.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <memory>
+
+#include "controls/dialog_hooks.h"
+#include "diagram/scaling.h"
+#include "gain_fixture.h"
+#include "graphwin/graph_image.h"
+#include "graphwin/grhilfe.h"
+#include "graphwin/gwin.h"
+#include "graphwin/xmax_dlg.h"
+
+namespace graphwin {
+namespace {
+
+// Answers every axis dialog with a typed text and OK, and keeps the labels it was shown with.
+class AxisAnswers {
+ public:
+  explicit AxisAnswers(QString typed)
+      : interception_([this, typed](QDialog& dialog) {
+          labels_.append(dialog.findChild<QLabel*>("NamenLabel")->text());
+          QLineEdit* edit = dialog.findChild<QLineEdit*>("Edit");
+          edit->selectAll();
+          QTest::keyClicks(edit, typed);
+          dialog.findChild<QPushButton*>("OKBtn")->click();
+          return dialog.result();
+        }) {}
+  QStringList labels_;
+
+ private:
+  controls::ModalInterception interception_;
+};
+
+class GainWindowTest : public testing::Test {
+ protected:
+  GainWindowTest() {
+    diagram::CurrentDiagram() = {};
+    inputs_.files = {{set_.get(), "/data/dut.s2p", true}};
+    dialogs_ = {&help_, &axis_};
+    window_ = std::make_unique<TFormG>([this] { return inputs_; }, dialogs_);
+    window_->ShowFromMain();
+  }
+  template <typename T>
+  T* Find(const char* name) {
+    T* found = window_->findChild<T*>(name);
+    if (!found) throw std::runtime_error(std::string("no control ") + name);
+    return found;
+  }
+  TDiagramImage* Image() { return Find<TDiagramImage>("Image"); }
+  QPoint PixelOf(double x, double y) {
+    const diagram::Diagram& d = Image()->Scale();
+    return {diagram::XToPixel(d, x), diagram::YToPixel(d, y)};
+  }
+  const diagram::Diagram& State() { return diagram::CurrentDiagram(); }
+
+  std::unique_ptr<numerics::TwoPortDataSet> set_ = graphwin_test::MakeDataSet(5, 1e9, 1e9);
+  plots::GraphInputs inputs_;
+  TGRHilfeBox help_;
+  TXmaxDlg1 axis_;
+  GraphDialogs dialogs_;
+  std::unique_ptr<TFormG> window_;
+};
+
+TEST_F(GainWindowTest, OpensAtItsDefaultsAgainAfterAZoom) {
+  EXPECT_TRUE(window_->isVisible());
+  EXPECT_EQ(State().xMax, 5e9);  // NiceStep(5 GHz)
+  EXPECT_EQ(State().xMin, 5e7);
+  Find<QToolButton>("ZoomInButton")->click();
+  EXPECT_DOUBLE_EQ(State().yMax, 40 / 1.5);
+  window_->ShowFromMain();
+  EXPECT_EQ(State().yMax, 40);
+  EXPECT_EQ(window_->Picture().size(), Image()->size());
+}
+
+// Coming back from another window of the program starts again; from a dialog it does not.
+TEST_F(GainWindowTest, SwitchingBackFromAnotherWindowActivatesItAgain) {
+  QMainWindow other;
+  other.show();
+  axis_.show();
+  Find<QToolButton>("ZoomInButton")->click();
+  QApplication::setActiveWindow(window_.get());
+  QApplication::setActiveWindow(&axis_);
+  QApplication::setActiveWindow(window_.get());
+  EXPECT_DOUBLE_EQ(State().yMax, 40 / 1.5);
+  QApplication::setActiveWindow(&other);
+  QApplication::setActiveWindow(window_.get());
+  EXPECT_EQ(State().yMax, 40);
+}
+
+TEST_F(GainWindowTest, CheckBoxesChooseTheCurves) {
+  Find<QCheckBox>("CheckBoxMAG")->click();  // the only box: checked again at once
+  EXPECT_TRUE(Find<QCheckBox>("CheckBoxMAG")->isChecked());
+  Find<QCheckBox>("CheckBoxS21")->click();
+  Find<QCheckBox>("CheckBoxMAG")->click();
+  ASSERT_EQ(window_->Plot().curves.size(), 1u);
+  EXPECT_EQ(window_->Plot().curves[0].name, "dut.s2p, |S21|²");
+  Find<QCheckBox>("CheckBoxS21")->click();  // MAG/MSG comes back
+  EXPECT_EQ(window_->Plot().title, "MAG(f) or MSG(f)");
+}
+
+TEST_F(GainWindowTest, AxisEndsAskForTheirLimitWithinTheWindowsBounds) {
+  {
+    AxisAnswers answers("20G");  // beyond the bound 1E10
+    QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e9, 0));
+    EXPECT_EQ(answers.labels_, QStringList{"xmax="});
+  }
+  EXPECT_EQ(State().xMax, 1e10);
+  EXPECT_EQ(State().xStep, 2e8);  // NiceStep((1E10 - 5E7) / 50)
+  {
+    AxisAnswers answers("-500");
+    QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e7, -20));
+    EXPECT_EQ(answers.labels_, QStringList{"ymin="});
+  }
+  EXPECT_EQ(State().yMin, -100);
+  Find<QAction>("xlog1")->trigger();
+  {
+    AxisAnswers answers("0");  // a logarithmic axis starts at 1 at the lowest
+    QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(State().xMin, 0));
+    EXPECT_EQ(answers.labels_, QStringList{"xmin="});
+  }
+  EXPECT_EQ(State().xMin, 1);
+  AxisAnswers origin("3G");
+  Find<QAction>("Ursprungfestlegen1")->trigger();
+  EXPECT_EQ(origin.labels_, (QStringList{"xo=", "yo="}));
+}
+
+TEST_F(GainWindowTest, RubberBandFromUpperLeftToLowerRightSetsTheScale) {
+  const QPoint from = PixelOf(1e9, 30), to = PixelOf(2e9, 10);
+  QTest::mousePress(Image(), Qt::RightButton, {}, to);
+  QTest::mouseRelease(Image(), Qt::RightButton, {}, from);
+  EXPECT_EQ(State().yMax, 40);  // drawn the wrong way round
+  QTest::mouseMove(Image(), from);
+  EXPECT_TRUE(Find<QLabel>("CurrentPanel")->text().startsWith("Position : f=1.0"));
+  QTest::mousePress(Image(), Qt::RightButton, {}, from);
+  QTest::mouseRelease(Image(), Qt::RightButton, {}, to);
+  EXPECT_NEAR(State().xMin, 1e9, 2e7);  // within a pixel
+  EXPECT_NEAR(State().xMax, 2e9, 2e7);
+  EXPECT_NEAR(State().yMin, 10, 0.3);
+  EXPECT_NEAR(State().yMax, 30, 0.3);
+}
+
+TEST_F(GainWindowTest, XLogAndAutoscaleFollowTheData) {
+  Find<QToolButton>("xlogButton")->click();
+  EXPECT_TRUE(Find<QAction>("xlog1")->isChecked());
+  EXPECT_EQ(State().xMin, 1e9);  // the lowest frequency, a decade already
+  EXPECT_EQ(State().xMax, 1e10);
+  Find<QAction>("xlog1")->trigger();
+  EXPECT_EQ(State().xMode, diagram::AxisMode::Linear);
+  EXPECT_EQ(State().xMin, 0);
+  Find<QToolButton>("AutoskButton")->click();
+  EXPECT_EQ(State().xMax, 5e9);
+  EXPECT_EQ(State().yMax, 7);  // RoundUpOneDigit(1.001 * 6.02 dB)
+}
+
+TEST_F(GainWindowTest, SizeCommandsKeepTheLeastSize) {
+  window_->resize(640, 480);
+  Find<QAction>("Vergroessern1")->trigger();
+  EXPECT_EQ(window_->size(), QSize(853, 640));
+  Find<QToolButton>("VerkleinernButton")->click();
+  EXPECT_EQ(window_->size(), QSize(640, 480));
+  window_->resize(300, 200);
+  EXPECT_EQ(window_->size(), QSize(400, 350));
+  Find<QAction>("HilfezumProgramm1")->trigger();
+  EXPECT_TRUE(help_.isVisible());
+  Find<QToolButton>("CloseButton")->click();
+  EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(GainWindowTest, OutputsWriteThePictureTheCurvesAndThePage) {
+  QTemporaryDir dir;
+  QStringList offered;
+  controls::DialogInterception answers(
+      [&](const controls::SaveDialogSetup& setup) {
+        offered.append(setup.initialName);
+        return dir.filePath("out." + setup.defaultSuffix.toLower());
+      },
+      [&](controls::PrinterDialog, QPrinter& printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(dir.filePath("page.pdf"));
+        return true;
+      });
+  for (const char* item : {"Save1", "SaveasGIF1", "SaveasJPEG1", "ExportCurves1", "WerteinTabellespeichern1",
+                           "Print1", "Save1"}) {
+    Find<QAction>(item)->trigger();
+  }
+  EXPECT_EQ(offered.last(), dir.filePath("out.bmp"));  // the last picture file is offered again
+  for (const char* picture : {"out.bmp", "out.gif", "out.jpg"}) {
+    EXPECT_EQ(QImage(dir.filePath(picture)).size(), window_->Picture().size()) << picture;
+  }
+  EXPECT_EQ(QApplication::clipboard()->image().size(), window_->Picture().size());  // from the JPEG save
+  QFile csv(dir.filePath("out.csv"));
+  ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
+  EXPECT_EQ(csv.readLine(), "f_Hz,MSG_or_MAG_dB (dut.s2p)\n");
+  EXPECT_EQ(csv.readLine(), "1000000000,6.020599913\n");
+  QFile table(dir.filePath("out.tab"));
+  ASSERT_TRUE(table.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(table.readLine().startsWith("Calculated Values by NETRIX"));
+  QFile pdf(dir.filePath("page.pdf"));
+  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(pdf.read(5) == "%PDF-");
+}
+
+}  // namespace
+}  // namespace graphwin
