@@ -46,4 +46,5 @@ for n in $(seq 1 40); do
              5 + n * 0.1 - i * 0.01, 150 - i * 0.5, 0.02 + i * 1e-4, 70 - i * 0.2, 0.6 - i * 1e-3, -20 - i * 0.3 }'
   } >"$series/point_$n.s2p"
 done
-echo "netrix --series --with-lgnd, 40 files of 253 points: $(median_ms 30 "$netrix" --series --with-lgnd "$series"/point_*.s2p)"
+echo "netrix --series --with-lgnd, 40 files of 253 points:" \
+  "$(median_ms 30 "$netrix" --series --with-lgnd "$series"/point_*.s2p)"
