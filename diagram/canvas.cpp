@@ -117,6 +117,10 @@ void Canvas::Arc(double left, double top, double right, double bottom, double st
   painter_.restore();
 }
 
+void Canvas::Hatch(const QPainterPath& region, Colour colour) {
+  painter_.fillPath(region, QBrush(ToQColor(colour), Qt::BDiagPattern));
+}
+
 void Canvas::TextOut(int x, int y, std::string_view text) {
   painter_.save();
   painter_.setPen(ToQColor(fontColour_));

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontMetrics>
+#include <QPainterPath>
 #include <QPoint>
 #include <string>
 #include <string_view>
@@ -59,6 +60,8 @@ class Canvas {
   // Part of the ellipse in the box, counter-clockwise on the screen from startDegrees (0 is the
   // right-hand end) over spanDegrees; never filled.
   void Arc(double left, double top, double right, double bottom, double startDegrees, double spanDegrees);
+  // Diagonal hatching in the colour over the region, without an outline.
+  void Hatch(const QPainterPath& region, Colour colour);
 
   // (x, y) is the top-left corner of the text, or the corner it turns about when rotated.
   void TextOut(int x, int y, std::string_view text);
