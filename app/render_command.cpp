@@ -6,6 +6,7 @@
 
 #include "diagram/canvas.h"
 #include "numerics/file_reader.h"
+#include "output_safety.h"
 #include "render_options.h"
 #include "render_output.h"
 #include "atomic_file.h"
@@ -57,6 +58,10 @@ int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::o
   const PictureFormat* format = FindPictureFormat(o.outPath);
   if (format == nullptr) {
     return Fail(err, "cannot tell the picture format of \"" + o.outPath + "\"; end the name in " + PictureExtensions());
+  }
+  for (const std::string* output : {&o.outPath, &o.dataPath}) {
+    if (output->empty()) continue;
+    if (const std::string refused = RefuseOutput(*output, o.files); !refused.empty()) return Fail(err, refused);
   }
   const auto store = std::make_unique<numerics::DataSetStore>();
   RenderInput input{o, {}};

@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <cassert>
+#include <memory>
 
 #include "about_box.h"
+#include "display_guard.h"
+#include "file_names.h"
 #include "graphwin/grhilfe.h"
 #include "graphwin/gwin.h"
 #include "graphwin/phiwin.h"
@@ -86,12 +89,15 @@ void InitialiseApplication() {
 }
 
 int RunGui(int& argc, char** argv) {
-  QApplication application(argc, argv);
+  const auto application = [&] {
+    const DisplayGuard guard;
+    return std::make_unique<QApplication>(argc, argv);
+  }();
   InitialiseApplication();
-  QStringList arguments = QCoreApplication::arguments();
-  arguments.removeFirst();
+  QStringList arguments;  // the bytes of each name, which QCoreApplication::arguments() may not keep
+  for (int i = 1; i < argc; ++i) arguments.append(DecodeFileName(argv[i]));
   FormSet forms(arguments);
-  QObject::connect(forms.SDIAppForm(), &TSDIAppForm::FormClosed, &application, &QCoreApplication::quit,
+  QObject::connect(forms.SDIAppForm(), &TSDIAppForm::FormClosed, application.get(), &QCoreApplication::quit,
                    Qt::QueuedConnection);
   forms.SDIAppForm()->show();
   return QApplication::exec();

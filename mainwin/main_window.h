@@ -88,7 +88,7 @@ class TSDIAppForm : public QMainWindow {
 
   void FormCreate(const QStringList& arguments);
   void ReadIniFile();
-  void WriteIniFile();
+  QString WriteIniFile();  // what stood in the way, or empty
   void LoadCommandLine(const QStringList& arguments);
   void FormClose();
 

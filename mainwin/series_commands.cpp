@@ -94,7 +94,10 @@ bool TSDIAppForm::CalculateSeries() {
     return false;
   }
   const series::SeriesEvaluation evaluation = series::EvaluateSeries(series_, settings, results_);
-  for (const std::string& message : evaluation.messages) controls::ShowMessage(this, QString::fromStdString(message));
+  // The warnings of many files (each without a current, say) are one list in one box.
+  QStringList messages;
+  for (const std::string& message : evaluation.messages) messages.append(QString::fromStdString(message));
+  if (!messages.isEmpty()) controls::ShowMessage(this, messages.join('\n'));
   return evaluation.completed;
 }
 
