@@ -15,6 +15,7 @@ struct PlotSeries {
   std::vector<double> y;  // one value per file
   diagram::Colour colour;
   std::uint8_t marker;
+  std::string name;  // as the legend names it
 };
 
 struct PageGraph {
