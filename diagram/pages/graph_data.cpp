@@ -16,9 +16,8 @@ constexpr SeriesLook kFirstSeries = {diagram::kGreen, diagram::kMarkerCross};
 constexpr SeriesLook kSecondSeries = {diagram::kRed, diagram::kMarkerCircle};
 // Below this a stability limit counts as not found.
 constexpr double kNoLimit = 1e-6;
-// The gain axis keeps room up to 15 dB, and k shares it ten times enlarged.
+// The gain axis keeps room up to 15 dB.
 constexpr double kLeastGainAxisTop = 15;
-constexpr double kKScale = 10;
 
 double FT(const series::FileFigures& f) { return f.fT; }
 double Fmax(const series::FileFigures& f) { return f.fmax; }

@@ -11,6 +11,9 @@
 // markers, and the axis titles. Pure functions of the scene, so they are tested without drawing.
 namespace diagram::pages {
 
+// Unless only k is shown, k shares the gain axis ten times enlarged.
+inline constexpr double kKScale = 10;
+
 struct PlotSeries {
   std::vector<double> y;  // one value per file
   diagram::Colour colour;

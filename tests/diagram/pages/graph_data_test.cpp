@@ -6,6 +6,7 @@
 
 #include "diagram/curves.h"
 #include "diagram/pages/graph_data.h"
+#include "diagram/pages/read_out.h"
 
 namespace diagram::pages {
 namespace {
@@ -108,6 +109,33 @@ TEST(UnstableTitle, WarnsInTheAxisTitleWhenNoFileHasALimit) {
     PageScene scene;
     for (const double limit : fk) scene.results.push_back({.fk = limit});
     EXPECT_EQ(GraphOf(OutputPage::StabilityLimit, scene).yTitle, title) << fk.size();
+  }
+}
+
+// Without a choice the gain page's axis holds MAG in dB and ten times k: 12.3 reads both ways.
+TEST(ReadOut, NamesBothAxesWithTheirUnits) {
+  using enum series::XAxisChoice;
+  struct Case {
+    OutputPage page;
+    series::XAxisChoice xAxis;
+    bool density;
+    GraphicChoice choice;
+    double x, y;
+    std::string text;
+  };
+  const Case cases[] = {
+      {OutputPage::FtFmax, CurrentIc, false, kAll, 15.18e-3, 28.64e9, "Ic = 15.18 mA, fT, fmax = 28.64 GHz"},
+      {OutputPage::FtFmax, CurrentId, false, kFTOnly, 5e-6, 2e9, "Id = 5.00 µA, fT = 2.00 GHz"},
+      {OutputPage::StabilityLimit, CurrentIc, true, kAll, 0.0304, 1.5e9, "j = 0.030 mA/µm², f(k>1) = 1.50 GHz"},
+      {OutputPage::KMag, FileNumber, true, kAll, 2.6, 12.3, "File Number = 3, MAG/MSG = 12.30 dB, k = 1.230"},
+      {OutputPage::KMag, CurrentIc, false, kKOnly, 1e-3, 1.23, "Ic = 1.00 mA, k = 1.230"},
+      {OutputPage::KMag, CurrentIc, false, kMagOnly, 1e-3, 12.3, "Ic = 1.00 mA, MAG/MSG = 12.30 dB"}};
+  for (const Case& c : cases) {
+    PageScene scene;
+    scene.settings.xAxis = c.xAxis;
+    scene.settings.density = c.density;
+    scene.choice = c.choice;
+    EXPECT_EQ(ReadOutText(c.page, scene, c.x, c.y), c.text);
   }
 }
 
