@@ -138,7 +138,7 @@ void TSDIAppForm::FormCreate(const QStringList& arguments) {
     table->SetCells(column, 0, QString::fromUtf8(series::kTableHeader[static_cast<std::size_t>(column)]));
   }
   ReadIniFile();
-  inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
+  inputPage_->ShowFiles(series_.Paths());
   QSettings settings;
   restoreGeometry(settings.value(kGeometryKey).toByteArray());
   RestoreReadingChoice(settings);

@@ -100,7 +100,6 @@ class TSDIAppForm : public QMainWindow {
   void RestoreReadingChoice(const QSettings& settings);
   bool RefuseWhenStoreFull();
   void AppendSeriesFiles(const QStringList& paths);
-  void ShowAppendedRows(std::size_t firstIndex);
   void SpeedButtonDeleteListClick();
   void SpeedButtonDeletaLastFileClick();
   void StringGridFilesSelectCell(int row);

@@ -151,6 +151,7 @@ void OutputPagesTest::TableCellsAndCommentEdits() {
   for (int row = 1; row <= 2; ++row) {
     const QString path = files[row - 1];
     QCOMPARE(grid->Cells(0, row), path.left(7) + "..." + path.right(15));
+    QCOMPARE(grid->item(row, 0)->toolTip(), path);
     QCOMPARE(grid->Cells(1, row).trimmed(), row == 1 ? QString("2.00mA") : QString("4.00mA"));
     QCOMPARE(grid->Cells(7, row), density ? (row == 1 ? QString("  0.004") : QString("  0.008")) : QString());
     QVERIFY(grid->Cells(4, row).endsWith("dB"));
