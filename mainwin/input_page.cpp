@@ -86,9 +86,11 @@ QWidget* InputPage::MakeFileList() {
   stringGridFiles_->setFont(CompactFont(stringGridFiles_->font()));
   stringGridFiles_->setMinimumWidth(240);
   connect(stringGridFiles_, &QTableWidget::cellClicked, this, [this](int row) { emit FileRowSelected(row); });
-  auto* deleteList = MakeToolButton(column, "SpeedButtonDeleteList", QStyle::SP_TrashIcon, tr("Delete Complete List"));
+  // A bin for the whole list, a clearing mark for the last file, so that the two look apart.
+  auto* deleteList =
+      MakeToolButton(column, "SpeedButtonDeleteList", QStyle::SP_DialogDiscardButton, tr("Delete Complete List"));
   auto* deleteLast =
-      MakeToolButton(column, "SpeedButtonDeletaLastFile", QStyle::SP_DialogDiscardButton, tr("Delete Last File"));
+      MakeToolButton(column, "SpeedButtonDeletaLastFile", QStyle::SP_LineEditClearButton, tr("Delete Last File"));
   connect(deleteList, &QToolButton::clicked, this, &InputPage::DeleteListClicked);
   connect(deleteLast, &QToolButton::clicked, this, &InputPage::DeleteLastClicked);
   auto* buttons = new QHBoxLayout;
