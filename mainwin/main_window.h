@@ -31,6 +31,7 @@ class TStringAlignGrid;
 namespace mainwin {
 
 class FormSet;
+struct ProgramStart;
 class FrequencyPage;
 class InputPage;
 class TGraphPage;
@@ -138,6 +139,7 @@ class TSDIAppForm : public QMainWindow {
   void ExecButtonClick();
   void Drucken1Click();
   void StartOrBeep(bool started);
+  void SayWhenNotStarted(const QAction* item, const ProgramStart& start);
 
   FormSet& forms_;
   series::SeriesList series_;
