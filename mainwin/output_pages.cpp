@@ -18,6 +18,7 @@ constexpr int kTableRows = 42;  // the header and up to 41 result rows
 
 QFont CompactFont(QFont font) {
   font.setPixelSize(11);
+  font.setStretch(QFont::Condensed);
   return font;
 }
 
