@@ -4,8 +4,10 @@
 #include <QFontMetrics>
 #include <QPainterPath>
 #include <QPoint>
+#include <QRect>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "colour.h"
 
@@ -68,6 +70,8 @@ class Canvas {
   int TextWidth(std::string_view text) const;
   // Every text of one font is as high as the font.
   int TextHeight(std::string_view text) const;
+  // Where the texts written so far lie, so that a name placed later can keep clear of them.
+  const std::vector<QRect>& WrittenTexts() const { return writtenTexts_; }
 
   // Drawing stays inside the rectangle until ClearClip.
   void SetClipRect(int left, int top, int right, int bottom);
@@ -89,6 +93,7 @@ class Canvas {
   QFont qfont_;
   QFontMetrics metrics_;
   QPoint position_;
+  std::vector<QRect> writtenTexts_;
 };
 
 }  // namespace diagram

@@ -5,6 +5,7 @@
 #include <cassert>
 
 #include "axes.h"
+#include "curve_names.h"
 #include "curves.h"
 #include "numerics/complex_value.h"
 #include "scaling.h"
@@ -60,7 +61,7 @@ void DrawFile(const Diagram& d, Canvas& canvas, const LoadedFile& file, int para
   const std::string label = ParameterLabel(parameterIndex, options.shortLabels);
   SetDrawColour(file.colour, canvas);
   if (locus.count == 1) {
-    canvas.TextOut(XToPixel(d, locus.re[0]), YToPixel(d, locus.im[0]), "Start" + label);
+    WriteCurveName(canvas, XToPixel(d, locus.re[0]), YToPixel(d, locus.im[0]), false, "Start" + label);
     return;
   }
   if (options.markPoints) DrawMarkers(d, locus.re, locus.im, kMarkerCross, locus.count, canvas);
