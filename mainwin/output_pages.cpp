@@ -25,12 +25,12 @@ QFont CompactFont(QFont font) {
 QLineEdit* MakeCommentEdit(QWidget* parent, const char* name, const QString& text) {
   auto* edit = new QLineEdit(text, parent);
   edit->setObjectName(name);
-  edit->setToolTip(QObject::tr("Here you can place a text"));
+  edit->setToolTip(QStringLiteral("Here you can place a text"));
   edit->setStatusTip(edit->toolTip());
   return edit;
 }
 
-QWidget* MakeTablePage(QWidget* parent) {
+TablePage MakeTablePage(QWidget* parent) {
   auto* page = new QWidget(parent);
   auto* layout = new QVBoxLayout(page);
   auto* grid = new controls::TStringAlignGrid(kTableColumns, kTableRows, page);
@@ -43,9 +43,10 @@ QWidget* MakeTablePage(QWidget* parent) {
   grid->horizontalHeader()->setStretchLastSection(true);
   grid->SetDefaultRowHeight(18);
   grid->SetFixedRows(1);
-  layout->addWidget(MakeCommentEdit(page, "EditComment3", QObject::tr("Output")));
+  QLineEdit* comment = MakeCommentEdit(page, "EditComment3", QStringLiteral("Output"));
+  layout->addWidget(comment);
   layout->addWidget(grid, 1);
-  return page;
+  return {page, comment, grid};
 }
 
 void ShowResultTable(controls::TStringAlignGrid& grid, const series::SeriesList& list, const series::SeriesArrays& results,
