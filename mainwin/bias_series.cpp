@@ -45,7 +45,12 @@ void BiasSeries::AppendFiles(const QStringList& paths) {
   Reordered();
 }
 
+// The whole list may hold forty files dropped from many folders: ask before it goes.
 void BiasSeries::DeleteList() {
+  const std::size_t count = series_.SeriesCount();
+  if (count == 0) return;
+  const QString question = QStringLiteral("Remove all %1 files from the series list?").arg(count);
+  if (!controls::AskQuestion(&window_, question)) return;
   series_.DeleteAll();
   ShowFiles();
 }
