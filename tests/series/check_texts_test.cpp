@@ -1,0 +1,48 @@
+#include <gtest/gtest.h>
+
+#include "series/check_texts.h"
+
+namespace series {
+namespace {
+
+// A file whose fmax came from MSG, falling at 10 dB per decade, in a sweep that ends above 0 dB.
+FileFigures MsgFile() {
+  FileFigures file;
+  file.fT = 3.52e9;
+  file.fmax = 6.38e9;
+  file.check.made = true;
+  file.check.k = 0.296;
+  file.check.fmaxFromMsg = true;
+  file.check.fT = {-19.774, 3.61e9, false, false};
+  file.check.fmax = {-9.886, std::nullopt, true, false};
+  return file;
+}
+
+TEST(CheckTexts, LineOfTheCommandLine) {
+  EXPECT_EQ(CheckLineText("a.s2p", MsgFile()),
+            "a.s2p h21_slope=-19.77dB/decade gain_slope=-9.89dB/decade k=0.2960 fT_crossing=3.61GHz "
+            "fmax_crossing=- flags=fmax:MSG,fmax:slope");
+  FileFigures clean = MsgFile();
+  clean.check.fmaxFromMsg = false;
+  clean.check.fmax = {std::nullopt, 6.1e9, false, false};
+  EXPECT_EQ(CheckLineText("b.s2p", clean),
+            "b.s2p h21_slope=-19.77dB/decade gain_slope=- k=0.2960 fT_crossing=3.61GHz fmax_crossing=6.10GHz flags=none");
+  EXPECT_EQ(CheckLineText("c.s2p", FileFigures{}), "c.s2p no point at or below fo, nothing to check");
+}
+
+TEST(CheckTexts, ToolTipsSayWhyAndGiveSlopeCrossingAndK) {
+  const FileFigures file = MsgFile();
+  EXPECT_EQ(CheckTipText(file, CheckedFigure::Fmax),
+            "fmax doubtful: taken from MSG (k < 1 at fo); MAG/MSG does not fall at 20 ± 3 dB per decade at fo\n"
+            "Slope of MAG/MSG at fo: -9.9 dB per decade\n"
+            "MAG/MSG does not fall through 1 in the sweep\n"
+            "k at fo: 0.296");
+  EXPECT_EQ(CheckTipText(file, CheckedFigure::FT),
+            "fT passes the checks at fo\n"
+            "Slope of |h21| at fo: -19.8 dB per decade\n"
+            "|h21| = 1 at 3.61GHz (fT at fo: 3.52GHz)\n"
+            "k at fo: 0.296");
+}
+
+}  // namespace
+}  // namespace series
