@@ -65,8 +65,19 @@ QString TStringAlignGrid::Cells(int column, int row) const {
   return cell ? cell->text() : QString();
 }
 
+void TStringAlignGrid::SetCellHint(int column, int row, const QColor& background, const QString& toolTip) {
+  if (!item(row, column)) SetCells(column, row, QString());
+  QTableWidgetItem& cell = *item(row, column);
+  StyleCell(cell, column, row);
+  if (background.isValid()) cell.setBackground(background);
+  cell.setToolTip(toolTip);
+}
+
 void TStringAlignGrid::ClearRow(int row) {
-  for (int column = 0; column < columnCount(); ++column) SetCells(column, row, QString());
+  for (int column = 0; column < columnCount(); ++column) {
+    SetCells(column, row, QString());
+    SetCellHint(column, row, QColor(), QString());
+  }
 }
 
 void TStringAlignGrid::StyleCell(QTableWidgetItem& cell, int column, int row) const {

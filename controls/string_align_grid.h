@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QTableWidget>
 #include <QVector>
 
@@ -22,6 +23,9 @@ class TStringAlignGrid : public QTableWidget {
 
   void SetCells(int column, int row, const QString& text);
   QString Cells(int column, int row) const;
+  // Shades a cell and gives it a tool tip; an invalid colour and an empty tip restore the plain
+  // cell. Clearing the row restores every cell of it.
+  void SetCellHint(int column, int row, const QColor& background, const QString& toolTip);
   void ClearRow(int row);
 
  private:

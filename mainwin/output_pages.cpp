@@ -1,11 +1,14 @@
 #include "output_pages.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 #include <cassert>
 
 #include "controls/string_align_grid.h"
+#include "series/check_texts.h"
 #include "series/table_cells.h"
 
 namespace mainwin {
@@ -13,6 +16,30 @@ namespace {
 
 constexpr int kTableColumns = 8;
 constexpr int kTableRows = 42;  // the header and up to 41 result rows
+
+// The fT and fmax cells carry the checks of their figure: a tool tip, and this shade when doubtful.
+struct CheckedColumn {
+  int column;
+  series::CheckedFigure figure;
+};
+constexpr CheckedColumn kCheckedColumns[] = {{2, series::CheckedFigure::FT}, {3, series::CheckedFigure::Fmax}};
+const QColor kDoubtfulShade(255, 214, 153);
+
+QWidget* MakeCheckLegend(QWidget* parent) {
+  auto* legend = new QLabel(QObject::tr("Shaded fT or fmax: doubtful at fo (slope, MSG or crossing); "
+                                        "point at a value for its check"), parent);
+  legend->setObjectName("LabelCheckLegend");
+  legend->setStyleSheet(QStringLiteral("background-color: %1").arg(kDoubtfulShade.name()));
+  return legend;
+}
+
+void ShowChecks(controls::TStringAlignGrid& grid, int row, const series::FileFigures& file) {
+  for (const CheckedColumn& c : kCheckedColumns) {
+    const bool doubtful = series::IsFlagged(file.check, c.figure);
+    grid.SetCellHint(c.column, row, doubtful ? kDoubtfulShade : QColor(),
+                     QString::fromStdString(series::CheckTipText(file, c.figure)));
+  }
+}
 
 }  // namespace
 
@@ -42,7 +69,10 @@ QWidget* MakeTablePage(QWidget* parent) {
   grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   grid->SetDefaultRowHeight(18);
   grid->SetFixedRows(1);
-  layout->addWidget(MakeCommentEdit(page, "EditComment3", QObject::tr("Output")));
+  auto* top = new QHBoxLayout;
+  top->addWidget(MakeCommentEdit(page, "EditComment3", QObject::tr("Output")), 1);
+  top->addWidget(MakeCheckLegend(page));
+  layout->addLayout(top);
   layout->addWidget(grid, 1);
   return page;
 }
@@ -58,6 +88,7 @@ void ShowResultTable(controls::TStringAlignGrid& grid, const series::SeriesList&
       const bool filled = static_cast<std::size_t>(column) < cells.size();
       grid.SetCells(column, row, filled ? QString::fromStdString(cells[static_cast<std::size_t>(column)]) : QString());
     }
+    ShowChecks(grid, row, results[i]);
   }
   for (int row = count + 1; row < kTableRows; ++row) grid.ClearRow(row);
 }

@@ -10,6 +10,7 @@
 #include "diagram/current.h"
 #include "diagram/curves.h"
 #include "diagram/frame.h"
+#include "diagram/scaling.h"
 #include "graph_data.h"
 #include "numerics/rounding.h"
 
@@ -17,6 +18,11 @@ namespace diagram::pages {
 namespace {
 
 using diagram::Canvas;
+
+// Flagged points carry a ring in the one colour the pages leave free; the note at the top right
+// says what a ring means, so that printed pages and picture files say it too.
+constexpr diagram::Colour kFlagColour = diagram::kBlue;
+constexpr const char* kFlagNote = "doubtful at fo: slope, MSG or crossing";
 
 // The autoscaling leaves the largest value this much below the axis end, so that no point
 // lands on the frame's edge, where it would get no marker.
@@ -54,6 +60,41 @@ void ScaleAxes(const PageGraph& graph, diagram::Diagram& d) {
   d.yStep = numerics::NiceStep((d.yMax - 0) / 50);
 }
 
+void DrawRing(QPoint centre, int radius, Canvas& c) {
+  c.Ellipse(centre.x() - radius, centre.y() - radius, centre.x() + radius, centre.y() + radius);
+}
+
+// Returns whether a ring was drawn.
+bool DrawRings(const diagram::Diagram& d, const PageGraph& graph, Canvas& c) {
+  bool drawn = false;
+  for (const PlotSeries& s : graph.series) {
+    for (std::size_t i = 0; i < s.flagged.size(); ++i) {
+      const QPoint at = PointPixel(d, graph, s, i);
+      if (!s.flagged[i] || !diagram::IsStrictlyInside(d, at.x(), at.y())) continue;
+      DrawRing(at, RingRadius(d), c);
+      drawn = true;
+    }
+  }
+  return drawn;
+}
+
+// A ring and its meaning, right-aligned above the frame's right end, level with the y title.
+void DrawFlagNote(const diagram::Diagram& d, Canvas& c) {
+  const int height = c.TextHeight(kFlagNote);
+  const int left = d.pixRight - c.TextWidth(kFlagNote);
+  const int top = d.pixTop - height * 3 / 2 - 2;
+  DrawRing({left - height, top + height / 2}, height / 2 - 1, c);
+  c.TextOut(left, top, kFlagNote);
+}
+
+void DrawFlags(const diagram::Diagram& d, const PageGraph& graph, Canvas& c) {
+  diagram::SetDrawColour(kFlagColour, c);
+  c.SetPenStyle(diagram::PenStyle::Solid);
+  c.SetBrushStyle(diagram::BrushStyle::Clear);
+  if (DrawRings(d, graph, c)) DrawFlagNote(d, c);
+  c.SetBrushStyle(diagram::BrushStyle::Solid);
+}
+
 void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
   diagram::Diagram& d = diagram::CurrentDiagram();
   ScaleAxes(graph, d);
@@ -64,12 +105,30 @@ void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
     diagram::DrawMarkers(graph.x, s.y, s.marker, count, c);
     if (connect) diagram::DrawCurve(graph.x, s.y, count, c);
   }
+  DrawFlags(d, graph, c);
   diagram::SetDrawColour(diagram::kBlack, c);
   diagram::DrawXTitle(graph.xTitle, false, c);
   diagram::DrawYTitle(graph.yTitle, c);
 }
 
 }  // namespace
+
+int RingRadius(const diagram::Diagram& d) { return 2 * diagram::MarkerSize(d) + 2; }
+
+QPoint PointPixel(const diagram::Diagram& d, const PageGraph& graph, const PlotSeries& series, std::size_t file) {
+  return {diagram::XToPixel(d, graph.x[file]), diagram::YToPixel(d, series.y[file])};
+}
+
+std::optional<CheckedPoint> CheckedPointNear(const diagram::Diagram& d, const PageGraph& graph, QPoint at) {
+  const int radius = RingRadius(d);
+  for (const PlotSeries& s : graph.series) {
+    for (std::size_t i = 0; s.checked && i < s.y.size(); ++i) {
+      const QPoint offset = PointPixel(d, graph, s, i) - at;
+      if (offset.x() * offset.x() + offset.y() * offset.y() <= radius * radius) return CheckedPoint{*s.checked, i};
+    }
+  }
+  return std::nullopt;
+}
 
 void DrawFtFmaxPage(const PageScene& scene, Canvas& canvas) {
   DrawPageGraph(GraphOf(OutputPage::FtFmax, scene), scene.connect, canvas);

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QFile>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
+#include <QToolTip>
 #include <cmath>
 
 #include "controls/string_align_grid.h"
@@ -21,6 +23,7 @@
 #include "mainwin/graph_image.h"
 #include "mainwin/graph_page.h"
 #include "diagram/pages/graph_data.h"
+#include "diagram/pages/page_graphs.h"
 
 using diagram::pages::OutputPage;
 
@@ -55,6 +58,7 @@ class OutputPagesTest : public QObject, mainwin_test::WindowSession {
   void PictureFilesHoldTheShownGraph();
   void CopyImageTakesTheGraphAndPicturesNeedAGraphPage();
   void MouseReadsOutTheValues();
+  void ChecksShadeDoubtfulCellsAndExplainPoints();
 
  private:
   // Files at 2 and 4 mA on page 2, evaluated, with the area 500 square micrometres.
@@ -328,15 +332,17 @@ void OutputPagesTest::PrintingNeedsTwoFilesAndACompletedDialog() {
 void OutputPagesTest::PictureFilesHoldTheShownGraph_data() {
   QTest::addColumn<QString>("item");
   QTest::addColumn<QString>("title");
-  QTest::addColumn<int>("tolerance");  // JPEG may change a pixel by this much per channel
-  QTest::newRow("BMP") << "SaveGraphBMP1" << "Save Graph to BMP File" << 0;
-  QTest::newRow("JPG") << "SaveGraphJPG1" << "Save Graph to JPG File" << 160;
+  // JPEG changes the channels by about 1 on average, even beside saturated colours, where single
+  // pixels may change by 200; a blank picture would be 4 away.
+  QTest::addColumn<double>("tolerance");
+  QTest::newRow("BMP") << "SaveGraphBMP1" << "Save Graph to BMP File" << 0.0;
+  QTest::newRow("JPG") << "SaveGraphJPG1" << "Save Graph to JPG File" << 1.5;
 }
 
 void OutputPagesTest::PictureFilesHoldTheShownGraph() {
   QFETCH(QString, item);
   QFETCH(QString, title);
-  QFETCH(int, tolerance);
+  QFETCH(double, tolerance);
   DropTwoFiles();
   ShowTab(3);
   const QString path = Out(item + ".picture");
@@ -347,14 +353,15 @@ void OutputPagesTest::PictureFilesHoldTheShownGraph() {
   const QImage saved = QImage(path).convertToFormat(QImage::Format_RGB32);
   QCOMPARE(saved.size(), shown.size());
   QCOMPARE(saved.size(), Image(OutputPage::KMag).size());
-  int worst = 0;
+  double sum = 0;
   for (int y = 0; y < shown.height(); ++y) {
     for (int x = 0; x < shown.width(); ++x) {
       const QRgb a = shown.pixel(x, y), b = saved.pixel(x, y);
-      worst = std::max({worst, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+      sum += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
     }
   }
-  QVERIFY2(worst <= tolerance, qPrintable(QString::number(worst)));
+  const double mean = sum / (3.0 * shown.width() * shown.height());
+  QVERIFY2(mean <= tolerance, qPrintable(QString::number(mean)));
 }
 
 void OutputPagesTest::CopyImageTakesTheGraphAndPicturesNeedAGraphPage() {
@@ -387,6 +394,30 @@ void OutputPagesTest::MouseReadsOutTheValues() {
   QVERIFY2(text.startsWith("x: 4.00m, y: "), qPrintable(text));
   QTest::mouseMove(&image, QPoint(2, 2));
   QVERIFY(Window().statusBar()->currentMessage().isEmpty());
+}
+
+// At 2 GHz the example transistor at 10 mA has k < 1, so its fmax comes from MSG; at 40 mA
+// both figures pass.
+void OutputPagesTest::ChecksShadeDoubtfulCellsAndExplainPoints() {
+  ShowTab(1);
+  const QString examples = QStringLiteral(NETRIX_SOURCE_DIR "/examples/series/");
+  Window().FilesDropped({examples + "bjt_07_10mA.s2p", examples + "bjt_12_40mA.s2p"});
+  ShowTab(5);
+  auto* grid = Find<controls::TStringAlignGrid>("StringAlignGridTab");
+  QCOMPARE(grid->item(1, 3)->background().color(), QColor(255, 214, 153));
+  for (const auto& [row, column] : {std::pair{1, 2}, std::pair{2, 2}, std::pair{2, 3}}) {
+    QCOMPARE(grid->item(row, column)->background().style(), Qt::NoBrush);
+  }
+  QVERIFY(grid->item(1, 3)->toolTip().startsWith("fmax doubtful: taken from MSG (k < 1 at fo)"));
+  QVERIFY(grid->item(2, 2)->toolTip().startsWith("fT passes the checks at fo\nSlope of |h21| at fo: -20.0"));
+
+  ShowTab(2);
+  auto& image = const_cast<mainwin::TGraphImage&>(Image(OutputPage::FtFmax));
+  const diagram::pages::PageGraph graph = Drawn(OutputPage::FtFmax);
+  const QPoint at = diagram::pages::PointPixel(diagram::CurrentDiagram(), graph, graph.series[1], 0);
+  QHelpEvent help(QEvent::ToolTip, at, image.mapToGlobal(at));
+  QCoreApplication::sendEvent(&image, &help);
+  QVERIFY2(QToolTip::text().startsWith("fmax doubtful"), qPrintable(QToolTip::text()));
 }
 
 int RunOutputPagesTests(int argc, char** argv) {
