@@ -26,9 +26,10 @@ constexpr CheckedColumn kCheckedColumns[] = {{2, series::CheckedFigure::FT}, {3,
 const QColor kDoubtfulShade(255, 214, 153);
 
 QWidget* MakeCheckLegend(QWidget* parent) {
-  auto* legend = new QLabel(QObject::tr("Shaded fT or fmax: doubtful at fo (slope, MSG or crossing); "
-                                        "point at a value for its check"), parent);
+  auto* legend = new QLabel(QObject::tr("Shaded fT, fmax: doubtful at fo"), parent);
   legend->setObjectName("LabelCheckLegend");
+  legend->setToolTip(QObject::tr("Slope outside -20 ± 3 dB per decade, fmax from MSG (k < 1), or more than 10 % "
+                                 "from where the sweep crosses 1. Point at a value for its check."));
   legend->setStyleSheet(QStringLiteral("background-color: %1").arg(kDoubtfulShade.name()));
   return legend;
 }

@@ -31,9 +31,9 @@ std::string Joined(const std::vector<std::string>& parts, const char* separator)
 std::vector<std::string> Reasons(const FileFigures& file, CheckedFigure figure) {
   const FigureWords w = WordsOf(file, figure);
   std::vector<std::string> reasons;
-  if (figure == CheckedFigure::Fmax && file.check.fmaxFromMsg) reasons.push_back("taken from MSG (k < 1 at fo)");
-  if (w.check.slopeOff) reasons.push_back(std::string(w.curve) + " does not fall at 20 ± 3 dB per decade at fo");
-  if (w.check.crossingOff) reasons.push_back("more than 10 % from where " + std::string(w.curve) + " crosses 1");
+  if (figure == CheckedFigure::Fmax && file.check.fmaxFromMsg) reasons.push_back("- taken from MSG (k < 1)");
+  if (w.check.slopeOff) reasons.push_back("- " + std::string(w.curve) + " does not fall at 20 ± 3 dB per decade");
+  if (w.check.crossingOff) reasons.push_back("- more than 10 % from where " + std::string(w.curve) + " crosses 1");
   return reasons;
 }
 
@@ -77,7 +77,7 @@ std::string CheckTipText(const FileFigures& file, CheckedFigure figure) {
   if (!file.check.made) return std::string("No point at or below fo: no ") + w.figure + " to check";
   const std::vector<std::string> reasons = Reasons(file, figure);
   const std::string verdict = reasons.empty() ? std::string(w.figure) + " passes the checks at fo"
-                                              : std::string(w.figure) + " doubtful: " + Joined(reasons, "; ");
+                                              : std::string(w.figure) + " doubtful at fo:\n" + Joined(reasons, "\n");
   return Joined({verdict, SlopeLine(w), CrossingLine(w), "k at fo: " + numerics::FloatTextTrimmed(3, file.check.k)},
                 "\n");
 }

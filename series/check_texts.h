@@ -12,7 +12,7 @@ enum class CheckedFigure { FT, Fmax };
 
 bool IsFlagged(const ExtractionCheck& check, CheckedFigure figure);
 
-// The tool tip of fT or fmax in the window, one item per line: whether and why it is doubtful,
+// The tool tip of fT or fmax in the window, one item per line: whether it is doubtful and why,
 // its slope at fo, the crossing estimate beside the spot value, and k at fo.
 std::string CheckTipText(const FileFigures& file, CheckedFigure figure);
 

@@ -408,7 +408,7 @@ void OutputPagesTest::ChecksShadeDoubtfulCellsAndExplainPoints() {
   for (const auto& [row, column] : {std::pair{1, 2}, std::pair{2, 2}, std::pair{2, 3}}) {
     QCOMPARE(grid->item(row, column)->background().style(), Qt::NoBrush);
   }
-  QVERIFY(grid->item(1, 3)->toolTip().startsWith("fmax doubtful: taken from MSG (k < 1 at fo)"));
+  QVERIFY(grid->item(1, 3)->toolTip().startsWith("fmax doubtful at fo:\n- taken from MSG (k < 1)"));
   QVERIFY(grid->item(2, 2)->toolTip().startsWith("fT passes the checks at fo\nSlope of |h21| at fo: -20.0"));
 
   ShowTab(2);

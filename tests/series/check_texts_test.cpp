@@ -33,7 +33,7 @@ TEST(CheckTexts, LineOfTheCommandLine) {
 TEST(CheckTexts, ToolTipsSayWhyAndGiveSlopeCrossingAndK) {
   const FileFigures file = MsgFile();
   EXPECT_EQ(CheckTipText(file, CheckedFigure::Fmax),
-            "fmax doubtful: taken from MSG (k < 1 at fo); MAG/MSG does not fall at 20 ± 3 dB per decade at fo\n"
+            "fmax doubtful at fo:\n- taken from MSG (k < 1)\n- MAG/MSG does not fall at 20 ± 3 dB per decade\n"
             "Slope of MAG/MSG at fo: -9.9 dB per decade\n"
             "MAG/MSG does not fall through 1 in the sweep\n"
             "k at fo: 0.296");
