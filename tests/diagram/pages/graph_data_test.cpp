@@ -80,7 +80,6 @@ constexpr GraphicChoice kFTOnly{true, false, false, false};
 constexpr GraphicChoice kFmaxOnly{false, true, false, false};
 constexpr GraphicChoice kMagOnly{false, false, true, false};
 constexpr GraphicChoice kKOnly{false, false, false, true};
-constexpr GraphicChoice kFTAndMag{true, false, true, false};
 
 INSTANTIATE_TEST_SUITE_P(
     Choices, PageGraphTest,
@@ -91,7 +90,6 @@ INSTANTIATE_TEST_SUITE_P(
         GraphCase{"KTimesTenAndMag", OutputPage::KMag, kAll, "k (x10), MAG+MSG in dB", {{8, 12, 25}, {12.5, 15, 16.5}}, 15, true},
         GraphCase{"KOnlyUnscaled", OutputPage::KMag, kKOnly, "k Factor", {{0.8, 1.2, 2.5}}, 0, false},
         GraphCase{"MagOnly", OutputPage::KMag, kMagOnly, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, false},
-        GraphCase{"FtAndMagOnTheGainPage", OutputPage::KMag, kFTAndMag, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, false},
         GraphCase{"StabilityLimit", OutputPage::StabilityLimit, kAll, "f(k>1) in Hz", {{0, 3e9, 1e9}}, 0, false}),
     [](const testing::TestParamInfo<GraphCase>& info) { return std::string(info.param.name); });
 
