@@ -3,7 +3,6 @@
 #include <ostream>
 
 #include "figures_command.h"
-#include "render_command.h"
 #include "series_command.h"
 
 namespace app {
@@ -22,7 +21,6 @@ int RunHelp(const std::vector<std::string>&, std::ostream& out, std::ostream&) {
 constexpr HeadlessMode kModes[] = {
     {"--figures", RunFiguresCommand},
     {"--series", RunSeriesCommand},
-    {"--render", RunRenderCommand},
     {"--help", RunHelp},
     {"-h", RunHelp},
 };
@@ -33,10 +31,14 @@ std::string UsageText() {
   return "Usage:\n"
          "  netrix [FILE...]\n"
          "      Open the main window with up to four S-parameter files loaded.\n"
-         "  netrix --figures [--touchstone] FILE\n"
-         "      Print the gain and stability figures of every point of FILE as CSV:\n"
+         "  netrix --figures [--touchstone] FILE|FOLDER...\n"
+         "      Print the gain and stability figures of every point of each file as CSV:\n"
          "      f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs\n"
-         "      --touchstone reads FILE as a Touchstone file (option line, comments, formats,\n"
+         "      A folder gives its .s2p and .spm files in name order. With more than one file, or\n"
+         "      a folder, each row starts with the file's path (column \"file\"). Files are\n"
+         "      evaluated in parallel and written in the given order; a file that cannot be read\n"
+         "      is reported and the others are still written (exit status 1).\n"
+         "      --touchstone reads the files as Touchstone files (option line, comments, formats,\n"
          "      parameter types, version 2.0 keywords, noise block) instead of the plain format.\n" +
          SeriesUsageText() +
          "  netrix --render VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]\n"
@@ -59,11 +61,16 @@ std::string UsageText() {
 }
 
 int RunHeadlessMode(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-  if (args.empty()) return -1;
+  if (args.empty() || args.front() == kRenderOption) return kNotHeadless;
   for (const HeadlessMode& mode : kModes) {
     if (args.front() == mode.option) return mode.run({args.begin() + 1, args.end()}, out, err);
   }
-  return -1;
+  // Anything else is the window; its arguments are file names, so only an unknown option is refused.
+  if (args.front().rfind("--", 0) == 0) {
+    err << "netrix: unknown option " << args.front() << ".\n" << UsageText();
+    return 2;
+  }
+  return kNotHeadless;
 }
 
 }  // namespace app
