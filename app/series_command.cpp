@@ -3,8 +3,10 @@
 #include <ostream>
 
 #include "atomic_file.h"
+#include "output_safety.h"
 #include "series/check_texts.h"
 #include "series/series_evaluation.h"
+#include "series/series_messages.h"
 #include "series/spa_export.h"
 #include "series_options.h"
 
@@ -13,9 +15,8 @@ namespace {
 
 bool WriteTable(const std::string& content, const SeriesOptions& options, std::ostream& out, std::ostream& err) {
   if (!options.outPath) {
-    out << content << std::flush;
-    if (!out) err << "netrix --series: the table could not be written to standard output.\n";
-    return static_cast<bool>(out);
+    out << content;
+    return StandardOutputWritten(out, err, "netrix --series", "the table");
   }
   std::string error;
   if (WriteFileAtomically(*options.outPath, content, error)) return true;
@@ -28,9 +29,7 @@ bool WriteTable(const std::string& content, const SeriesOptions& options, std::o
 bool WriteChecks(const series::SeriesList& list, const series::SeriesArrays& arrays, std::ostream& out,
                  std::ostream& err) {
   for (std::size_t i = 0; i < arrays.size(); ++i) out << series::CheckLineText(list.Path(i), arrays[i]) << '\n';
-  out << std::flush;
-  if (!out) err << "netrix --series: the checks could not be written to standard output.\n";
-  return static_cast<bool>(out);
+  return StandardOutputWritten(out, err, "netrix --series", "the checks");
 }
 
 }  // namespace
@@ -49,11 +48,21 @@ int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, st
     err << "netrix --series: " << error << '\n';
     return 1;
   }
+  if (options.outPath) {
+    if (const std::string refused = RefuseOutput(*options.outPath, options.files); !refused.empty()) {
+      err << "netrix --series: " << refused << '\n';
+      return 1;
+    }
+  }
   const series::SeriesList list = MakeSeries(options.files, err);
   series::SeriesArrays arrays;
   const series::SeriesEvaluation evaluation = series::EvaluateSeries(list, options.settings, arrays);
   for (const std::string& message : evaluation.messages) err << message << '\n';
   if (!evaluation.completed) return 1;
+  for (std::size_t i = 0; i < arrays.size(); ++i) {
+    const std::string warning = series::NonFiniteWarning(list.Path(i), arrays[i]);
+    if (!warning.empty()) err << "netrix --series: " << warning << '\n';
+  }
   if (!WriteTable(series::SpaContent(list, arrays, options.settings), options, out, err)) return 1;
   return !options.checks || WriteChecks(list, arrays, out, err) ? 0 : 1;
 }

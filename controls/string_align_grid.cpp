@@ -11,6 +11,7 @@ TStringAlignGrid::TStringAlignGrid(int columns, int rows, QWidget* parent)
   horizontalHeader()->hide();
   verticalHeader()->hide();
   setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setWordWrap(false);  // one line per cell: a wrapped text would lose its end below the row
   setSelectionMode(QAbstractItemView::SingleSelection);
 }
 
@@ -48,7 +49,7 @@ void TStringAlignGrid::SetFixedRows(int rows) {
   }
 }
 
-void TStringAlignGrid::SetCells(int column, int row, const QString& text) {
+void TStringAlignGrid::SetCells(int column, int row, const QString& text, const QString& hint) {
   assert(column >= 0 && column < columnCount() && row >= 0 && row < rowCount());
   QTableWidgetItem* cell = item(row, column);
   if (!cell) {
@@ -57,6 +58,7 @@ void TStringAlignGrid::SetCells(int column, int row, const QString& text) {
     setItem(row, column, cell);
   }
   cell->setText(text);
+  cell->setToolTip(hint);
 }
 
 QString TStringAlignGrid::Cells(int column, int row) const {
@@ -65,18 +67,17 @@ QString TStringAlignGrid::Cells(int column, int row) const {
   return cell ? cell->text() : QString();
 }
 
-void TStringAlignGrid::SetCellHint(int column, int row, const QColor& background, const QString& toolTip) {
+void TStringAlignGrid::SetCellShade(int column, int row, const QColor& background) {
   if (!item(row, column)) SetCells(column, row, QString());
   QTableWidgetItem& cell = *item(row, column);
   StyleCell(cell, column, row);
   if (background.isValid()) cell.setBackground(background);
-  cell.setToolTip(toolTip);
 }
 
 void TStringAlignGrid::ClearRow(int row) {
   for (int column = 0; column < columnCount(); ++column) {
     SetCells(column, row, QString());
-    SetCellHint(column, row, QColor(), QString());
+    SetCellShade(column, row, QColor());
   }
 }
 

@@ -21,11 +21,11 @@ class TStringAlignGrid : public QTableWidget {
   void SetDefaultRowHeight(int pixels);
   void SetFixedRows(int rows);
 
-  void SetCells(int column, int row, const QString& text);
+  // The hint shows as the cell's tool tip; an empty one removes it.
+  void SetCells(int column, int row, const QString& text, const QString& hint = QString());
   QString Cells(int column, int row) const;
-  // Shades a cell and gives it a tool tip; an invalid colour and an empty tip restore the plain
-  // cell. Clearing the row restores every cell of it.
-  void SetCellHint(int column, int row, const QColor& background, const QString& toolTip);
+  // Shades a cell; an invalid colour restores the plain cell, as clearing the row does.
+  void SetCellShade(int column, int row, const QColor& background);
   void ClearRow(int row);
 
  private:

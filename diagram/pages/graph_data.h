@@ -13,10 +13,14 @@
 // markers, and the axis titles. Pure functions of the scene, so they are tested without drawing.
 namespace diagram::pages {
 
+// Unless only k is shown, k shares the gain axis ten times enlarged.
+inline constexpr double kKScale = 10;
+
 struct PlotSeries {
   std::vector<double> y;  // one value per file
   diagram::Colour colour;
   std::uint8_t marker;
+  std::string name;  // as the legend names it
   std::optional<series::CheckedFigure> checked = std::nullopt;  // the figure whose check the points carry
   std::vector<bool> flagged = {};  // per file, when checked: the check failed
 };

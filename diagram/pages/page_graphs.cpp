@@ -12,17 +12,13 @@
 #include "diagram/frame.h"
 #include "diagram/scaling.h"
 #include "graph_data.h"
+#include "graph_legend.h"
 #include "numerics/rounding.h"
 
 namespace diagram::pages {
 namespace {
 
 using diagram::Canvas;
-
-// Flagged points carry a ring in the one colour the pages leave free; the note at the top right
-// says what a ring means, so that printed pages and picture files say it too.
-constexpr diagram::Colour kFlagColour = diagram::kBlue;
-constexpr const char* kFlagNote = "doubtful at fo: slope, MSG or crossing";
 
 // The autoscaling leaves the largest value this much below the axis end, so that no point
 // lands on the frame's edge, where it would get no marker.
@@ -60,11 +56,7 @@ void ScaleAxes(const PageGraph& graph, diagram::Diagram& d) {
   d.yStep = numerics::NiceStep((d.yMax - 0) / 50);
 }
 
-void DrawRing(QPoint centre, int radius, Canvas& c) {
-  c.Ellipse(centre.x() - radius, centre.y() - radius, centre.x() + radius, centre.y() + radius);
-}
-
-// Returns whether a ring was drawn.
+// Returns whether a ring was drawn, which is when the legend says what a ring means.
 bool DrawRings(const diagram::Diagram& d, const PageGraph& graph, Canvas& c) {
   bool drawn = false;
   for (const PlotSeries& s : graph.series) {
@@ -75,24 +67,8 @@ bool DrawRings(const diagram::Diagram& d, const PageGraph& graph, Canvas& c) {
       drawn = true;
     }
   }
+  c.SetBrushStyle(diagram::BrushStyle::Solid);  // the titles and the legend box are drawn filled
   return drawn;
-}
-
-// A ring and its meaning, right-aligned above the frame's right end, level with the y title.
-void DrawFlagNote(const diagram::Diagram& d, Canvas& c) {
-  const int height = c.TextHeight(kFlagNote);
-  const int left = d.pixRight - c.TextWidth(kFlagNote);
-  const int top = d.pixTop - height * 3 / 2 - 2;
-  DrawRing({left - height, top + height / 2}, height / 2 - 1, c);
-  c.TextOut(left, top, kFlagNote);
-}
-
-void DrawFlags(const diagram::Diagram& d, const PageGraph& graph, Canvas& c) {
-  diagram::SetDrawColour(kFlagColour, c);
-  c.SetPenStyle(diagram::PenStyle::Solid);
-  c.SetBrushStyle(diagram::BrushStyle::Clear);
-  if (DrawRings(d, graph, c)) DrawFlagNote(d, c);
-  c.SetBrushStyle(diagram::BrushStyle::Solid);
 }
 
 void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
@@ -105,10 +81,11 @@ void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
     diagram::DrawMarkers(graph.x, s.y, s.marker, count, c);
     if (connect) diagram::DrawCurve(graph.x, s.y, count, c);
   }
-  DrawFlags(d, graph, c);
+  const bool ringed = DrawRings(d, graph, c);
   diagram::SetDrawColour(diagram::kBlack, c);
   diagram::DrawXTitle(graph.xTitle, false, c);
   diagram::DrawYTitle(graph.yTitle, c);
+  DrawLegend(d, graph, ringed, c);
 }
 
 }  // namespace
