@@ -24,17 +24,17 @@ QLabel* MakeWhiteLabel(const QString& text, int pointSize, QWidget* parent) {
 
 TAboutBox::TAboutBox(QWidget* parent) : QDialog(parent) {
   setObjectName("AboutBox");
-  setWindowTitle(tr("About"));
+  setWindowTitle(QStringLiteral("About"));
   auto* panel = new controls::TGradientPanel(this);
   panel->setObjectName("GradientPanel");
   panel->SetColors(QColor(0, 0, 160), QColor(0, 0, 0));
   auto* text = new QVBoxLayout(panel);
-  text->addWidget(MakeWhiteLabel(tr("S-Parameter Analysis"), 16, panel));
+  text->addWidget(MakeWhiteLabel(QStringLiteral("S-Parameter Analysis"), 16, panel));
   text->addWidget(MakeWhiteLabel(QStringLiteral("netrix " NETRIX_VERSION), 10, panel));
-  text->addWidget(MakeWhiteLabel(tr("Gain, stability and impedance of two-ports from measured "
+  text->addWidget(MakeWhiteLabel(QStringLiteral("Gain, stability and impedance of two-ports from measured "
                                     "S-parameters, and the figures of merit of transistor bias series."),
                                  9, panel));
-  auto* ok = new QPushButton(tr("OK"), this);
+  auto* ok = new QPushButton(QStringLiteral("OK"), this);
   ok->setObjectName("OKButton");
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);

@@ -24,7 +24,12 @@ struct FormFactories {
   using Factory = QWidget* (*)(FormSet& forms, const QStringList& arguments);
 
   static QWidget* CreateSDIAppForm(FormSet& forms, const QStringList& arguments) {
-    return forms.sdiAppForm_ = new TSDIAppForm(forms, arguments);
+    // The boxes in the order of MainBox; they exist by the time the window asks for one.
+    const auto box = [&forms](MainBox b) {
+      return std::array<QDialog*, 3>{forms.HilfeBox(), forms.HilfeFOMBox(), forms.AboutBox()}[static_cast<int>(b)];
+    };
+    const auto diagram = [&forms](graphwin::DiagramWindow window) { return forms.DiagramWindowOf(window); };
+    return forms.sdiAppForm_ = new TSDIAppForm({diagram, box}, arguments);
   }
   template <typename Form, Form* FormSet::*member, graphwin::DiagramWindow window>
   static QWidget* CreateDiagramWindow(FormSet& forms, const QStringList&) {

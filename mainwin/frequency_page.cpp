@@ -45,7 +45,7 @@ QWidget* FrequencyPage::MakeFileColumn() {
   auto* column = new QWidget(this);
   auto* layout = new QVBoxLayout(column);
   layout->setContentsMargins(0, 0, 0, 0);
-  auto* label = new QLabel(tr("S-Parameter Files :"), column);
+  auto* label = new QLabel(QStringLiteral("S-Parameter Files :"), column);
   label->setObjectName("Label1");
   checkListBox1_ = new QListWidget(column);
   checkListBox1_->setObjectName("CheckListBox1");
@@ -53,8 +53,8 @@ QWidget* FrequencyPage::MakeFileColumn() {
   connect(checkListBox1_, &QListWidget::itemChanged, this, &FrequencyPage::CheckListBox1ClickCheck);
   auto* remove = new QToolButton(column);
   remove->setObjectName("SpeedButtonDelete");
-  remove->setText(tr("Remove Last"));
-  remove->setToolTip(tr("Remove last file entry from list"));
+  remove->setText(QStringLiteral("Remove Last"));
+  remove->setToolTip(QStringLiteral("Remove last file entry from list"));
   remove->setStatusTip(remove->toolTip());
   connect(remove, &QToolButton::clicked, this, &FrequencyPage::SpeedButtonDeleteClick);
   layout->addWidget(label);
@@ -64,7 +64,7 @@ QWidget* FrequencyPage::MakeFileColumn() {
 }
 
 QWidget* FrequencyPage::MakeDiagramButtons() {
-  auto* group = new QGroupBox(tr("Diagrams"), this);
+  auto* group = new QGroupBox(QStringLiteral("Diagrams"), this);
   auto* layout = new QGridLayout(group);
   using W = graphwin::DiagramWindow;
   using M = graphwin::DisplayMode;
@@ -94,7 +94,7 @@ QWidget* FrequencyPage::MakeCountAndZ0() {
   auto* box = new QWidget(this);
   auto* layout = new QGridLayout(box);
   layout->setContentsMargins(0, 0, 0, 0);
-  label4_ = new QLabel(tr("Number of Frequencies"), box);
+  label4_ = new QLabel(QStringLiteral("Number of Frequencies"), box);
   label4_->setObjectName("Label4");
   fnEingabe_ = new QLineEdit(box);
   fnEingabe_->setObjectName("fnEingabe");
@@ -120,7 +120,7 @@ QWidget* FrequencyPage::MakeCountAndZ0() {
 }
 
 void FrequencyPage::AddZ0Entry(QGridLayout& layout, int row) {
-  auto* label = new QLabel(tr("Z0 in Ohm"), this);
+  auto* label = new QLabel(QStringLiteral("Z0 in Ohm"), this);
   label->setObjectName("Label2");
   auto* edit = new QLineEdit(QStringLiteral("   50.0"), this);
   edit->setObjectName("ZLEingabe");
@@ -132,16 +132,17 @@ void FrequencyPage::AddZ0Entry(QGridLayout& layout, int row) {
 }
 
 QWidget* FrequencyPage::MakeDisplayOptions() {
-  auto* group = new QGroupBox(tr("Display"), this);
+  auto* group = new QGroupBox(QStringLiteral("Display"), this);
   auto* layout = new QGridLayout(group);
-  verbindenCheckBox_ = MakeCheckBox(group, "VerbindenCheckBox", tr("Connect Frequency Points"), true);
-  legendeCheckBox_ = MakeCheckBox(group, "LegendeCheckBox", tr("Display Legend"), true);
-  legendeCheckBox_->setToolTip(tr("Maximum frequency only shown if file is loaded"));
+  verbindenCheckBox_ = MakeCheckBox(group, "VerbindenCheckBox", QStringLiteral("Connect Frequency Points"), true);
+  legendeCheckBox_ = MakeCheckBox(group, "LegendeCheckBox", QStringLiteral("Display Legend"), true);
+  legendeCheckBox_->setToolTip(QStringLiteral("Maximum frequency only shown if file is loaded"));
   legendeCheckBox_->setStatusTip(legendeCheckBox_->toolTip());
-  gleicheFrequenz_ = MakeCheckBox(group, "GleicheFrequenz", tr("Connect Points of Equal Frequencies"), false);
-  splineCheckBox_ = MakeCheckBox(group, "SplineCheckBox", tr("Spline Interpolation"), true);
-  kommentarCheckBox_ = MakeCheckBox(group, "KommentarCheckBox", tr("Display Comment"), false);
-  dateiCheckBox_ = MakeCheckBox(group, "DateiCheckBox", tr("Display File Names"), true);
+  gleicheFrequenz_ =
+      MakeCheckBox(group, "GleicheFrequenz", QStringLiteral("Connect Points of Equal Frequencies"), false);
+  splineCheckBox_ = MakeCheckBox(group, "SplineCheckBox", QStringLiteral("Spline Interpolation"), true);
+  kommentarCheckBox_ = MakeCheckBox(group, "KommentarCheckBox", QStringLiteral("Display Comment"), false);
+  dateiCheckBox_ = MakeCheckBox(group, "DateiCheckBox", QStringLiteral("Display File Names"), true);
   layout->addWidget(verbindenCheckBox_, 0, 0);
   layout->addWidget(splineCheckBox_, 1, 0);
   layout->addWidget(gleicheFrequenz_, 2, 0);
@@ -171,7 +172,7 @@ void FrequencyPage::AddFile(const FrequencyFile& file) {
 
 void FrequencyPage::SpeedButtonDeleteClick() {
   if (files_.Count() == 0) {
-    controls::ShowMessage(this, tr("No file available!"));
+    controls::ShowMessage(this, QStringLiteral("No file available!"));
     return;
   }
   numerics::DataSetStore& store = numerics::DataSets();

@@ -15,7 +15,7 @@ TGraphPage::TGraphPage(diagram::pages::OutputPage page, const Names& names, QWid
     : QWidget(parent), page_(page) {
   image_ = new TGraphImage(page, this);
   image_->setObjectName(names.image);
-  comment_ = MakeCommentEdit(this, names.comment, tr("Graphic"));
+  comment_ = MakeCommentEdit(this, names.comment, QStringLiteral("Graphic"));
   auto* top = new QHBoxLayout;
   top->addWidget(comment_, 1);
   if (names.legend) {

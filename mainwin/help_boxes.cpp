@@ -74,12 +74,12 @@ void FillHelpBox(QDialog& box, const QString& caption, const char* html) {
 
 THilfeBox::THilfeBox(QWidget* parent) : QDialog(parent) {
   setObjectName("HilfeBox");
-  FillHelpBox(*this, tr("Help"), kFrequencyHelp);
+  FillHelpBox(*this, QStringLiteral("Help"), kFrequencyHelp);
 }
 
 THilfeFOMBox::THilfeFOMBox(QWidget* parent) : QDialog(parent) {
   setObjectName("HilfeFOMBox");
-  FillHelpBox(*this, tr("Help for S-Parameter Analysis"), kSeriesHelp);
+  FillHelpBox(*this, QStringLiteral("Help for S-Parameter Analysis"), kSeriesHelp);
 }
 
 }  // namespace mainwin

@@ -87,10 +87,10 @@ QWidget* InputPage::MakeFileList() {
   stringGridFiles_->setMinimumWidth(240);
   connect(stringGridFiles_, &QTableWidget::cellClicked, this, [this](int row) { emit FileRowSelected(row); });
   // A bin for the whole list, a clearing mark for the last file, so that the two look apart.
-  auto* deleteList =
-      MakeToolButton(column, "SpeedButtonDeleteList", QStyle::SP_DialogDiscardButton, tr("Delete Complete List"));
-  auto* deleteLast =
-      MakeToolButton(column, "SpeedButtonDeletaLastFile", QStyle::SP_LineEditClearButton, tr("Delete Last File"));
+  auto* deleteList = MakeToolButton(column, "SpeedButtonDeleteList", QStyle::SP_DialogDiscardButton,
+                                    QStringLiteral("Delete Complete List"));
+  auto* deleteLast = MakeToolButton(column, "SpeedButtonDeletaLastFile", QStyle::SP_LineEditClearButton,
+                                    QStringLiteral("Delete Last File"));
   connect(deleteList, &QToolButton::clicked, this, &InputPage::DeleteListClicked);
   connect(deleteLast, &QToolButton::clicked, this, &InputPage::DeleteLastClicked);
   auto* buttons = new QHBoxLayout;
@@ -106,12 +106,12 @@ QWidget* InputPage::MakeActions() {
   auto* row = new QWidget(this);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  auto* calculate = new QPushButton(tr("Calculate"), row);
+  auto* calculate = new QPushButton(QStringLiteral("Calculate"), row);
   calculate->setObjectName("BitBtnCalc");
-  SetHint(calculate, tr("Perform calculations "));
-  auto* exportButton = new QPushButton(tr("Export"), row);
+  SetHint(calculate, QStringLiteral("Perform calculations "));
+  auto* exportButton = new QPushButton(QStringLiteral("Export"), row);
   exportButton->setObjectName("BitBtn1");
-  SetHint(exportButton, tr("Perform calculations and export to file"));
+  SetHint(exportButton, QStringLiteral("Perform calculations and export to file"));
   connect(calculate, &QPushButton::clicked, this, &InputPage::CalculateClicked);
   connect(exportButton, &QPushButton::clicked, this, &InputPage::ExportClicked);
   layout->addWidget(calculate);
@@ -127,30 +127,31 @@ QLineEdit* InputPage::MakeEntry(const char* name, const QString& text) {
 }
 
 QWidget* InputPage::MakeEntries() {
-  auto* group = new QGroupBox(tr("Analysis"), this);
+  auto* group = new QGroupBox(QStringLiteral("Analysis"), this);
   auto* layout = new QGridLayout(group);
-  foEingabe_ = MakeEntry("foEingabe", QStringLiteral("  2.0G"));
-  lgndEingabe_ = MakeEntry("LgndEingabe", QStringLiteral("  100p"));
-  areaEingabe_ = MakeEntry("AreaEingabe", QStringLiteral("  1000"));
-  checkBoxLgnd_ = MakeButton<QCheckBox>(group, "CheckBoxLgnd", tr("Insert Lgnd"), false);
-  layout->addWidget(new QLabel(tr("fo in Hz"), group), 0, 0);
+  foEingabe_ = MakeEntry("foEingabe", series::kDefaultFoText);
+  lgndEingabe_ = MakeEntry("LgndEingabe", series::kDefaultLgndText);
+  areaEingabe_ = MakeEntry("AreaEingabe", series::kDefaultAreaText);
+  checkBoxLgnd_ = MakeButton<QCheckBox>(group, "CheckBoxLgnd", QStringLiteral("Insert Lgnd"), false);
+  layout->addWidget(new QLabel(QStringLiteral("fo in Hz"), group), 0, 0);
   layout->addWidget(foEingabe_, 0, 1);
-  layout->addWidget(new QLabel(tr("Lgnd in H"), group), 1, 0);
+  layout->addWidget(new QLabel(QStringLiteral("Lgnd in H"), group), 1, 0);
   layout->addWidget(lgndEingabe_, 1, 1);
   layout->addWidget(checkBoxLgnd_, 2, 0, 1, 2);
-  layout->addWidget(new QLabel(tr("Area in µm²"), group), 3, 0);
+  layout->addWidget(new QLabel(QStringLiteral("Area in µm²"), group), 3, 0);
   layout->addWidget(areaEingabe_, 3, 1);
   return group;
 }
 
 QWidget* InputPage::MakeMultiplier() {
-  auto* group = new QGroupBox(tr("f Multiplier"), this);
-  SetHint(group, tr("Must be the same for all files"));
+  auto* group = new QGroupBox(QStringLiteral("f Multiplier"), this);
+  SetHint(group, QStringLiteral("Must be the same for all files"));
   auto* layout = new QVBoxLayout(group);
-  radioButtonHz_ = MakeButton<QRadioButton>(group, "RadioButtonHz", tr("Hz"), false);
-  radioButtonMHz_ = MakeButton<QRadioButton>(group, "RadioButtonMHz", tr("MHz"), true);
-  radioButtonGHz_ = MakeButton<QRadioButton>(group, "RadioButtonGHz", tr("GHz"), false);
-  radioButtonAutoPrefix_ = MakeButton<QRadioButton>(group, "RadioButtonAutoPrefix", tr("automatical"), false);
+  radioButtonHz_ = MakeButton<QRadioButton>(group, "RadioButtonHz", QStringLiteral("Hz"), false);
+  radioButtonMHz_ = MakeButton<QRadioButton>(group, "RadioButtonMHz", QStringLiteral("MHz"), true);
+  radioButtonGHz_ = MakeButton<QRadioButton>(group, "RadioButtonGHz", QStringLiteral("GHz"), false);
+  radioButtonAutoPrefix_ =
+      MakeButton<QRadioButton>(group, "RadioButtonAutoPrefix", QStringLiteral("automatical"), false);
   radioButtonAutoPrefix_->setEnabled(false);
   const std::pair<QRadioButton*, FrequencyUnit> units[] = {{radioButtonHz_, FrequencyUnit::Hz},
                                                            {radioButtonMHz_, FrequencyUnit::MHz},
@@ -166,26 +167,28 @@ QWidget* InputPage::MakeMultiplier() {
 }
 
 QWidget* InputPage::MakeXAxisChoice() {
-  auto* group = new QGroupBox(tr("x-Axis in Graphic Output :"), this);
+  auto* group = new QGroupBox(QStringLiteral("x-Axis in Graphic Output :"), this);
   auto* layout = new QVBoxLayout(group);
-  radioButtonFileNo_ = MakeButton<QRadioButton>(group, "RadioButtonFileNo", tr("File Number"), false);
-  radioButtonIc_ = MakeButton<QRadioButton>(group, "RadioButtonIc", tr("Current Ic"), true);
+  radioButtonFileNo_ = MakeButton<QRadioButton>(group, "RadioButtonFileNo", QStringLiteral("File Number"), false);
+  radioButtonIc_ = MakeButton<QRadioButton>(group, "RadioButtonIc", QStringLiteral("Current Ic"), true);
   layout->addWidget(radioButtonFileNo_);
   layout->addWidget(radioButtonIc_);
-  layout->addWidget(MakeButton<QRadioButton>(group, "RadioButtonId", tr("Current Id"), false));
-  checkBoxDensity_ = MakeButton<QCheckBox>(group, "CheckBoxDensity", tr("Show vs j"), false);
+  layout->addWidget(MakeButton<QRadioButton>(group, "RadioButtonId", QStringLiteral("Current Id"), false));
+  checkBoxDensity_ = MakeButton<QCheckBox>(group, "CheckBoxDensity", QStringLiteral("Show vs j"), false);
   layout->addWidget(checkBoxDensity_);
   return group;
 }
 
 QWidget* InputPage::MakeOptions() {
-  auto* group = new QGroupBox(tr("Options"), this);
+  auto* group = new QGroupBox(QStringLiteral("Options"), this);
   auto* layout = new QVBoxLayout(group);
-  checkBoxConnect_ = MakeButton<QCheckBox>(group, "CheckBoxConnect", tr("Connect Points in Graphic"), false);
-  checkBoxAutoCalculate_ = MakeButton<QCheckBox>(group, "CheckBoxAutoCalculate", tr("Auto Calculate"), true);
-  SetHint(checkBoxAutoCalculate_, tr("during draging the files, slower but more comfortable operation"));
-  checkBoxU_ = MakeButton<QCheckBox>(group, "CheckBoxU", tr("fmax with U"), false);
-  checkBoxComment_ = MakeButton<QCheckBox>(group, "CheckBoxComment", tr("Put Comment to Outputs"), false);
+  checkBoxConnect_ =
+      MakeButton<QCheckBox>(group, "CheckBoxConnect", QStringLiteral("Connect Points in Graphic"), false);
+  checkBoxAutoCalculate_ =
+      MakeButton<QCheckBox>(group, "CheckBoxAutoCalculate", QStringLiteral("Auto Calculate"), true);
+  SetHint(checkBoxAutoCalculate_, QStringLiteral("during draging the files, slower but more comfortable operation"));
+  checkBoxU_ = MakeButton<QCheckBox>(group, "CheckBoxU", QStringLiteral("fmax with U"), false);
+  checkBoxComment_ = MakeButton<QCheckBox>(group, "CheckBoxComment", QStringLiteral("Put Comment to Outputs"), false);
   memoComment_ = new QPlainTextEdit(group);
   memoComment_->setObjectName("MemoComment");
   memoComment_->setFixedHeight(48);
@@ -199,31 +202,33 @@ QWidget* InputPage::MakeOptions() {
 
 void InputPage::ShowSettings(const IniSettings& settings) {
   shown_ = settings;
-  foEingabe_->setText(PrefixedEntry(settings.fo));
-  areaEingabe_->setText(' ' + QString::fromStdString(numerics::FloatText(7, 1, settings.area)));
-  lgndEingabe_->setText(PrefixedEntry(settings.lgnd));
-  CheckUnitButton(settings.fMultiplier);
+  const series::SeriesSettings& e = settings.entries;
+  foEingabe_->setText(PrefixedEntry(e.fo));
+  areaEingabe_->setText(' ' + QString::fromStdString(numerics::FloatText(7, 1, e.area)));
+  lgndEingabe_->setText(PrefixedEntry(e.lgnd));
+  CheckUnitButton(e.multiplier);
   memoComment_->setPlainText(settings.comment);
-  checkBoxLgnd_->setChecked(settings.withLgnd);
-  checkBoxDensity_->setChecked(settings.jOutput);
+  checkBoxLgnd_->setChecked(e.withLgnd);
+  checkBoxDensity_->setChecked(e.density);
   checkBoxConnect_->setChecked(settings.connectPoints);
 }
 
 IniSettings InputPage::CurrentSettings() const {
   IniSettings s;
-  s.fo = EntryValue(foEingabe_, shown_.fo);
-  s.lgnd = EntryValue(lgndEingabe_, shown_.lgnd);
-  s.area = EntryValue(areaEingabe_, shown_.area);
-  s.fMultiplier = unitMultiplier_;
+  series::SeriesSettings& e = s.entries;
+  e.fo = EntryValue(foEingabe_, shown_.entries.fo);
+  e.lgnd = EntryValue(lgndEingabe_, shown_.entries.lgnd);
+  e.area = EntryValue(areaEingabe_, shown_.entries.area);
+  e.multiplier = unitMultiplier_;
   s.comment = memoComment_->toPlainText();
-  s.withLgnd = checkBoxLgnd_->isChecked();
-  s.jOutput = checkBoxDensity_->isChecked();
+  e.withLgnd = checkBoxLgnd_->isChecked();
+  e.density = checkBoxDensity_->isChecked();
   s.connectPoints = checkBoxConnect_->isChecked();
   return s;
 }
 
 void InputPage::ShowSeriesCount(int count) {
-  labelNo_->setText(tr("Number of files = ") + QString::number(count));
+  labelNo_->setText(QStringLiteral("Number of files = %1").arg(count));
 }
 
 void InputPage::ShowFiles(const std::vector<std::string>& paths) {
@@ -241,19 +246,12 @@ void InputPage::ShowFiles(const std::vector<std::string>& paths) {
 }
 
 series::SeriesSettings InputPage::EvaluationSettings() const {
-  const IniSettings entries = CurrentSettings();
-  series::SeriesSettings s;
-  s.fo = entries.fo;
-  s.multiplier = entries.fMultiplier;
+  series::SeriesSettings s = CurrentSettings().entries;
   s.automaticMultiplier = radioButtonAutoPrefix_->isChecked();
-  s.lgnd = entries.lgnd;
-  s.withLgnd = entries.withLgnd;
   s.fmaxFromU = checkBoxU_->isChecked();
   s.xAxis = radioButtonIc_->isChecked()       ? series::XAxisChoice::CurrentIc
             : radioButtonFileNo_->isChecked() ? series::XAxisChoice::FileNumber
                                               : series::XAxisChoice::CurrentId;
-  s.area = entries.area;
-  s.density = entries.jOutput;
   return s;
 }
 

@@ -76,7 +76,7 @@ class InputPage : public QWidget {
   QRadioButton* radioButtonMHz_ = nullptr;
   QRadioButton* radioButtonGHz_ = nullptr;
   QRadioButton* radioButtonAutoPrefix_ = nullptr;
-  double unitMultiplier_ = kDefaultMultiplier;  // of the unit button checked last
+  double unitMultiplier_ = series::SeriesSettings{}.multiplier;  // of the unit button checked last
   QCheckBox* checkBoxLgnd_ = nullptr;
   QCheckBox* checkBoxDensity_ = nullptr;
   QCheckBox* checkBoxConnect_ = nullptr;

@@ -9,11 +9,13 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include "about_box.h"
-#include "form_set.h"
-#include "history_list.h"
-#include "main_window.h"
+#include <QDialog>
+
 #include "controls/message_box.h"
+#include "bias_series.h"
+#include "file_loading.h"
+#include "main_window.h"
+#include "result_outputs.h"
 #include "tools_menu.h"
 
 namespace mainwin {
@@ -29,43 +31,96 @@ void TSDIAppForm::BuildMenus() {
   menuBar()->addMenu(BuildFileMenu());
   menuBar()->addMenu(BuildGraphicMenu());
   menuBar()->addMenu(BuildToolsMenu());
-  QMenu* options = menuBar()->addMenu(tr("&Options"));
+  QMenu* options = menuBar()->addMenu(QStringLiteral("&Options"));
   options->setObjectName("Optionen1");
-  QAction* front = AddAction(options, "ImmerimVordergrund1", tr("Always Stay in &Front"),
-                             tr("Keep this window above all other windows"));
+  QAction* front = AddAction(options, "ImmerimVordergrund1", QStringLiteral("Always Stay in &Front"),
+                             QStringLiteral("Keep this window above all other windows"));
   front->setCheckable(true);
   connect(front, &QAction::triggered, this, &TSDIAppForm::StayInFront1Click);
-  readTouchstoneFiles1_ =
-      AddAction(options, "ReadTouchstoneFiles1", tr("Read &Touchstone Files"),
-                tr("Apply the option line, comments, formats and parameter types of Touchstone files when loading"));
+  readTouchstoneFiles1_ = AddAction(
+      options, "ReadTouchstoneFiles1", QStringLiteral("Read &Touchstone Files"),
+      QStringLiteral("Apply the option line, comments, formats and parameter types of Touchstone files when loading"));
   readTouchstoneFiles1_->setCheckable(true);
   menuBar()->addMenu(BuildHelpMenu());
 }
 
 QMenu* TSDIAppForm::BuildFileMenu() {
-  fileMenu_ = new QMenu(tr("&File"), this);
-  fileMenu_->setObjectName("Datei1");
-  QAction* load = AddAction(fileMenu_, "Load1", tr("&Load *.SPM/*.S2P"), tr("Load file *.spm"));
+  auto* fileMenu = new QMenu(QStringLiteral("&File"), this);
+  fileMenu->setObjectName("Datei1");
+  QAction* load = AddAction(fileMenu, "Load1", QStringLiteral("&Load *.SPM/*.S2P"), QStringLiteral("Load file *.spm"));
   load->setShortcut(Qt::Key_F3);
   connect(load, &QAction::triggered, this, &TSDIAppForm::Load1Click);
-  QAction* base = AddAction(fileMenu_, "HistoryBase1", tr("&List of Previous S-Parameter Files..."), QString());
+  QAction* base =
+      AddAction(fileMenu, "HistoryBase1", QStringLiteral("&List of Previous S-Parameter Files..."), QString());
   base->setVisible(false);
-  historyList1_ = new THistoryList(fileMenu_, base, this);
-  historyList1_->setObjectName("HistoryList1");
-  fileMenu_->addSeparator();
-  AddOutputItems(fileMenu_);
-  fileMenu_->addSeparator();
-  QAction* exit = AddAction(fileMenu_, "Exit1", tr("&Exit"), tr("Leave the program"));
+  loading_->AddRecentFiles(fileMenu, base);
+  fileMenu->addSeparator();
+  AddOutputItems(fileMenu);
+  fileMenu->addSeparator();
+  QAction* exit = AddAction(fileMenu, "Exit1", QStringLiteral("&Exit"), QStringLiteral("Leave the program"));
   exit->setShortcut(QKeySequence(Qt::ALT | Qt::Key_X));
   connect(exit, &QAction::triggered, this, &QWidget::close);
-  return fileMenu_;
+  return fileMenu;
+}
+
+QMenu* TSDIAppForm::BuildGraphicMenu() {
+  auto* menu = new QMenu(QStringLiteral("&Graphic"), this);
+  menu->setObjectName("Graphic1");
+  outputs_->AddGraphicChoice(menu);
+  menu->addSeparator();
+  connect(
+      AddAction(menu, "ShowAll1", QStringLiteral("Show &All"), QStringLiteral("Show every series on the graph pages")),
+      &QAction::triggered, this, &TSDIAppForm::ShowAll1Click);
+  connect(AddAction(menu, "ShowfTandMAG1", QStringLiteral("Show &fT and MAG"),
+                    QStringLiteral("Show only fT and only MAG/MSG")),
+          &QAction::triggered, this, &TSDIAppForm::ShowfTandMAG1Click);
+  menu->addSeparator();
+  connect(AddAction(menu, "CopyImage1", QStringLiteral("&Copy Image"),
+                    QStringLiteral("Copy the graph of the page to the clipboard")),
+          &QAction::triggered, this, &TSDIAppForm::CopyImage1Click);
+  return menu;
+}
+
+void TSDIAppForm::AddOutputItems(QMenu* menu) {
+  struct Item {
+    const char* name;
+    const char* caption;
+    const char* hint;
+    void (TSDIAppForm::*handler)();
+  };
+  const Item items[] = {
+      {"ExportData1", "&Export Data to ASCII File...", "Perform calculations and export to file",
+       &TSDIAppForm::ExportData},
+      {"SaveGraphBMP1", "Save Graph as &BMP...", "Save the graph of the page as a BMP file",
+       &TSDIAppForm::SaveGraphBMP1Click},
+      {"SaveGraphJPG1", "Save Graph as &JPG...", "Save the graph of the page as a JPG file",
+       &TSDIAppForm::SaveGraphJPG1Click},
+      {nullptr, nullptr, nullptr, nullptr},
+      {"Drucken1", "&Print", "Print window", &TSDIAppForm::Drucken1Click},
+      {"PrintAllWindows1", "Print &All Windows", "Print the three graphs and the table",
+       &TSDIAppForm::PrintAllWindows1Click},
+      {"Print1stTwo1", "Print &1st Two Analysis Outputs", "Print the fT, fmax graph and the k, MAG graph on one sheet",
+       &TSDIAppForm::Print1stTwo1Click},
+      {"PrintTable1", "Print Output &Table", "Print the result table", &TSDIAppForm::PrintTable1Click},
+      {"PrinterSetup1", "Printer &Setup...", "Choose the paper and its orientation", &TSDIAppForm::PrinterSetup1Click},
+  };
+  for (const Item& item : items) {
+    if (!item.name) {
+      menu->addSeparator();
+      continue;
+    }
+    QAction* action = AddAction(menu, item.name, item.caption, item.hint);
+    connect(action, &QAction::triggered, this, item.handler);
+    if (item.handler == &TSDIAppForm::Drucken1Click) drucken1_ = action;
+  }
+  drucken1_->setShortcut(QKeySequence::Print);
 }
 
 QMenu* TSDIAppForm::BuildToolsMenu() {
-  auto* tools = new QMenu(tr("&Tools"), this);
+  auto* tools = new QMenu(QStringLiteral("&Tools"), this);
   tools->setObjectName("Tools1");
-  connect(AddAction(tools, "Execute1", tr("&Execute"), tr("Call another program")), &QAction::triggered, this,
-          &TSDIAppForm::ExecButtonClick);
+  connect(AddAction(tools, "Execute1", QStringLiteral("&Execute"), QStringLiteral("Call another program")),
+          &QAction::triggered, this, &TSDIAppForm::ExecButtonClick);
   tools->addSeparator();
   struct Program {
     const char* name;
@@ -73,11 +128,11 @@ QMenu* TSDIAppForm::BuildToolsMenu() {
     ProgramStart (*start)();
   };
   const Program programs[] = {
-      {"Calculator1", tr("&Calculator"), StartCalculator},
-      {"Explorer1", tr("&Explorer"), StartFileManager},
-      {"TwoPortCalculations1", tr("&Two-Port Calculations"), StartTwoPortCalculations},
-      {"Clipboard1", tr("&Clipboard"), StartClipboardViewer},
-      {"Notepad1", tr("&Notepad"), [] { return StartTextEditor(QString()); }},
+      {"Calculator1", QStringLiteral("&Calculator"), StartCalculator},
+      {"Explorer1", QStringLiteral("&Explorer"), StartFileManager},
+      {"TwoPortCalculations1", QStringLiteral("&Two-Port Calculations"), StartTwoPortCalculations},
+      {"Clipboard1", QStringLiteral("&Clipboard"), StartClipboardViewer},
+      {"Notepad1", QStringLiteral("&Notepad"), [] { return StartTextEditor(QString()); }},
   };
   for (const Program& program : programs) {
     QAction* action = AddAction(tools, program.name, program.caption, QString());
@@ -85,32 +140,32 @@ QMenu* TSDIAppForm::BuildToolsMenu() {
             [this, action, start = program.start] { SayWhenNotStarted(action, start()); });
   }
   tools->addSeparator();
-  QAction* edit = AddAction(tools, "EditLastDataFile1", tr("&Edit Last Data File"),
-                            tr("Open the last exported data file in the text editor"));
+  QAction* edit = AddAction(tools, "EditLastDataFile1", QStringLiteral("&Edit Last Data File"),
+                            QStringLiteral("Open the last exported data file in the text editor"));
   edit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
   connect(edit, &QAction::triggered, this,
-          [this, edit] { SayWhenNotStarted(edit, StartTextEditor(lastExportFile_)); });
+          [this, edit] { SayWhenNotStarted(edit, StartTextEditor(series_->LastExportFile())); });
   return tools;
 }
 
 QMenu* TSDIAppForm::BuildHelpMenu() {
-  auto* help = new QMenu(tr("Hel&p"), this);
+  auto* help = new QMenu(QStringLiteral("Hel&p"), this);
   help->setObjectName("Hilfe1");
-  QAction* helpItem = AddAction(help, "Help1", tr("&Help"), tr("Help for the page shown"));
+  QAction* helpItem = AddAction(help, "Help1", QStringLiteral("&Help"), QStringLiteral("Help for the page shown"));
   helpItem->setShortcut(QKeySequence::HelpContents);
   connect(helpItem, &QAction::triggered, this, &TSDIAppForm::Help1Click);
-  connect(AddAction(help, "VortoHelp1", tr("&Vorto Help"), QString()), &QAction::triggered, this,
+  connect(AddAction(help, "VortoHelp1", QStringLiteral("&Vorto Help"), QString()), &QAction::triggered, this,
           &TSDIAppForm::VortoHelp1Click);
   help->addSeparator();
-  QAction* mail = AddAction(help, "EMail1", tr("&E-Mail to the Author"), QString());
+  QAction* mail = AddAction(help, "EMail1", QStringLiteral("&E-Mail to the Author"), QString());
   connect(mail, &QAction::triggered, this, [this, mail] { SayWhenNotStarted(mail, OpenMailToAuthor()); });
-  connect(AddAction(help, "Info1", tr("&Info..."), tr("Information about the program")), &QAction::triggered,
-          this, [this] { forms_.AboutBox()->exec(); });
+  connect(AddAction(help, "Info1", QStringLiteral("&Info..."), QStringLiteral("Information about the program")),
+          &QAction::triggered, this, [this] { lookups_.box(MainBox::About)->exec(); });
   return help;
 }
 
 void TSDIAppForm::BuildToolBar() {
-  QToolBar* bar = addToolBar(tr("Tools"));
+  QToolBar* bar = addToolBar(QStringLiteral("Tools"));
   bar->setObjectName("ToolBar1");
   bar->setMovable(false);
   struct Tool {
@@ -120,9 +175,10 @@ void TSDIAppForm::BuildToolBar() {
     void (TSDIAppForm::*handler)();
   };
   const Tool tools[] = {
-      {"SpeedButtonLoad", QStyle::SP_DialogOpenButton, tr("Load S-parameters from file"), &TSDIAppForm::Load1Click},
-      {"ExecButton", QStyle::SP_ComputerIcon, tr("Call another program"), &TSDIAppForm::ExecButtonClick},
-      {"ExitBtn", QStyle::SP_DialogCloseButton, tr("Exit"), nullptr},
+      {"SpeedButtonLoad", QStyle::SP_DialogOpenButton, QStringLiteral("Load S-parameters from file"),
+       &TSDIAppForm::Load1Click},
+      {"ExecButton", QStyle::SP_ComputerIcon, QStringLiteral("Call another program"), &TSDIAppForm::ExecButtonClick},
+      {"ExitBtn", QStyle::SP_DialogCloseButton, QStringLiteral("Exit"), nullptr},
   };
   for (const Tool& tool : tools) {
     auto* button = new QToolButton(bar);
@@ -143,10 +199,10 @@ QWidget* TSDIAppForm::BuildBottomButtons() {
   auto* row = new QWidget(this);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(4, 0, 4, 0);
-  auto* help = new QPushButton(tr("&Help"), row);
+  auto* help = new QPushButton(QStringLiteral("&Help"), row);
   help->setObjectName("HelpBtn");
   connect(help, &QPushButton::clicked, this, &TSDIAppForm::Help1Click);
-  auto* exit = new QPushButton(tr("Exit"), row);
+  auto* exit = new QPushButton(QStringLiteral("Exit"), row);
   exit->setObjectName("Abbruch");
   connect(exit, &QPushButton::clicked, this, &QWidget::close);
   layout->addStretch(1);
@@ -164,7 +220,8 @@ void TSDIAppForm::SayWhenNotStarted(const QAction* item, const ProgramStart& sta
   QApplication::beep();
   const QString caption = item->text().remove('&');
   controls::ShowMessage(
-      this, tr("\"%1\" started nothing: %2. Install such a program, then try again!").arg(caption, start.tried));
+      this,
+      QStringLiteral("\"%1\" started nothing: %2. Install such a program, then try again!").arg(caption, start.tried));
 }
 
 }  // namespace mainwin

@@ -2,31 +2,30 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QMenuBar>
-#include <QPrinter>
 #include <QPrinterInfo>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <utility>
 
-#include "controls/string_align_grid.h"
-#include "graphwin/graph_form.h"
-#include "numerics/data_set.h"
-#include "series/table_cells.h"
-#include "form_set.h"
+#include "bias_series.h"
+#include "controls/message_box.h"
+#include "file_loading.h"
 #include "frequency_page.h"
 #include "graph_image.h"
 #include "graph_page.h"
+#include "graphwin/graph_form.h"
 #include "help_boxes.h"
 #include "history_list.h"
 #include "input_page.h"
-#include "controls/message_box.h"
-#include "output_pages.h"
+#include "numerics/data_set.h"
+#include "result_outputs.h"
 #include "settings_file.h"
 #include "settings_problems.h"
 #include "tools_menu.h"
@@ -36,7 +35,6 @@ namespace {
 
 constexpr int kClientWidth = 641;
 constexpr int kClientHeight = 473;
-constexpr int kFirstOutputPage = 3;
 const char* const kGeometryKey = "MainWindow/Geometry";
 
 // Six captions side by side must fit the fixed width: a smaller, condensed font, and where that is
@@ -56,16 +54,17 @@ QTabBar* MakeTabSet(QWidget* parent) {
 
 }  // namespace
 
-TSDIAppForm::TSDIAppForm(FormSet& forms, const QStringList& arguments)
+TSDIAppForm::TSDIAppForm(WindowLookups lookups, const QStringList& arguments)
     : QMainWindow(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
-      forms_(forms) {
+      lookups_(std::move(lookups)) {
   setObjectName("SDIAppForm");
-  setWindowTitle(tr("S-Parameter Analysis"));
+  setWindowTitle(QStringLiteral("S-Parameter Analysis"));
   setAcceptDrops(true);
+  // The pages first: the menus reach the classes that hold the pages' logic.
+  setCentralWidget(BuildNotebook());
   BuildMenus();
   BuildToolBar();
-  setCentralWidget(BuildNotebook());
   statusBar()->setObjectName("StatusBar");
   statusBar()->setSizeGripEnabled(false);
   setFixedSize(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
@@ -81,26 +80,23 @@ QWidget* TSDIAppForm::BuildNotebook() {
   notebook1_->setObjectName("Notebook1");
   frequencyPage_ = new FrequencyPage(notebook1_);
   inputPage_ = new InputPage(notebook1_);
-  using diagram::pages::OutputPage;
-  graphPages_ = {
-      new TGraphPage(OutputPage::FtFmax, {"Image1", "EditComment1", "LabelLegende1", "fT - crosses "}, notebook1_),
-      new TGraphPage(OutputPage::KMag, {"Image2", "EditComment2", "LabelLegende2", "k - crosses "}, notebook1_),
-      new TGraphPage(OutputPage::StabilityLimit, {"Image3", "EditComment4", nullptr, nullptr}, notebook1_)};
-  const std::pair<QWidget*, QString> pages[] = {
-      {frequencyPage_, tr("S-Parameter vs Frequency")},
-      {inputPage_, tr("Input: Extracted F.O.M. vs Parameter")},
-      {graphPages_[0], tr("fT, fmax Output")},
-      {graphPages_[1], tr("k, MSG, MAG Output")},
-      {graphPages_[2], tr("Stability Limit")},
-      {MakeTablePage(notebook1_), tr("Tabular Output")},
+  series_ = std::make_unique<BiasSeries>(*this, *inputPage_, [this] { return loading_->ReadsTouchstone(); });
+  outputs_ = std::make_unique<ResultOutputs>(*this, *series_, *inputPage_, [this] { return page_; });
+  loading_ = std::make_unique<FileLoading>(*this, *frequencyPage_, *inputPage_, *series_);
+  const ResultOutputs::Pages outputPages = outputs_->BuildPages(notebook1_);
+  const std::pair<QWidget*, const char*> pages[] = {
+      {frequencyPage_, "S-Parameter vs Frequency"},
+      {inputPage_, "Input: Extracted F.O.M. vs Parameter"},
+      {outputPages.graphs[0], "fT, fmax Output"},
+      {outputPages.graphs[1], "k, MSG, MAG Output"},
+      {outputPages.graphs[2], "Stability Limit"},
+      {outputPages.table, "Tabular Output"},
   };
   for (const auto& [page, caption] : pages) {
     page->setWindowTitle(caption);
     notebook1_->addWidget(page);
   }
-  stringAlignGridTab_ = notebook1_->findChild<controls::TStringAlignGrid*>("StringAlignGridTab");
-  editComment3_ = notebook1_->findChild<QLineEdit*>("EditComment3");
-  ConnectPages();
+  ConnectPages(outputPages);
   auto* layout = new QVBoxLayout(central);
   layout->setContentsMargins(2, 2, 2, 2);
   layout->setSpacing(0);
@@ -110,14 +106,14 @@ QWidget* TSDIAppForm::BuildNotebook() {
   return central;
 }
 
-void TSDIAppForm::ConnectPages() {
+void TSDIAppForm::ConnectPages(const ResultOutputs::Pages& outputPages) {
   connect(frequencyPage_, &FrequencyPage::DiagramRequested, this, &TSDIAppForm::ShowDiagram);
   connect(inputPage_, &InputPage::FileRowSelected, this, &TSDIAppForm::StringGridFilesSelectCell);
   connect(inputPage_, &InputPage::DeleteListClicked, this, &TSDIAppForm::SpeedButtonDeleteListClick);
   connect(inputPage_, &InputPage::DeleteLastClicked, this, &TSDIAppForm::SpeedButtonDeletaLastFileClick);
-  connect(inputPage_, &InputPage::CalculateClicked, this, &TSDIAppForm::CalculateSeries);
+  connect(inputPage_, &InputPage::CalculateClicked, this, &TSDIAppForm::BitBtnCalcClick);
   connect(inputPage_, &InputPage::ExportClicked, this, &TSDIAppForm::ExportData);
-  for (TGraphPage* page : graphPages_) {
+  for (TGraphPage* page : outputPages.graphs) {
     connect(&page->Image(), &TGraphImage::ReadOut, this, [this](const QString& text) {
       if (text.isEmpty()) {
         statusBar()->clearMessage();
@@ -134,22 +130,15 @@ void TSDIAppForm::FormCreate(const QStringList& arguments) {
     tabSet1_->setTabToolTip(i, notebook1_->widget(i)->windowTitle());
   }
   connect(tabSet1_, &QTabBar::currentChanged, this, &TSDIAppForm::TabSet1Click);
-  auto* table = findChild<controls::TStringAlignGrid*>("StringAlignGridTab");
-  for (int column = 0; column < static_cast<int>(series::kTableColumnCount); ++column) {
-    table->SetCells(column, 0, QString::fromUtf8(series::kTableHeader[static_cast<std::size_t>(column)]));
-  }
   ReadIniFile();
-  inputPage_->ShowFiles(series_.Paths());
+  series_->ShowFiles();
   QSettings settings;
   if (const QString problem = StoreReadMessage(settings); !problem.isEmpty()) controls::ShowMessage(this, problem);
   restoreGeometry(settings.value(kGeometryKey).toByteArray());
-  RestoreReadingChoice(settings);
-  historyList1_->SetRegPath(QStringLiteral("netrix"));
-  historyList1_->SetRegKey(QStringLiteral("MRUList1"));
-  historyList1_->SetMaxItems(6);
-  historyList1_->Load(settings);
-  connect(historyList1_, &THistoryList::Clicked, this, &TSDIAppForm::HistoryList1Click);
-  LoadCommandLine(arguments);
+  loading_->Restore(readTouchstoneFiles1_, settings);
+  connect(readTouchstoneFiles1_, &QAction::toggled, this, &TSDIAppForm::ReadTouchstoneFiles1Click);
+  connect(&loading_->HistoryList(), &THistoryList::Clicked, this, &TSDIAppForm::HistoryList1Click);
+  loading_->LoadCommandLine(arguments);
 }
 
 // A missing or unreadable file leaves the built-in values in place.
@@ -175,7 +164,7 @@ QString TSDIAppForm::WriteIniFile() {
 void TSDIAppForm::FormClose() {
   QStringList problems{WriteIniFile()};
   QSettings settings;
-  historyList1_->Save(settings);
+  loading_->Save(settings);
   settings.setValue(kGeometryKey, saveGeometry());
   problems.append(StoreWriteMessage(settings));
   problems.removeAll(QString());
@@ -189,23 +178,23 @@ void TSDIAppForm::closeEvent(QCloseEvent* event) {
 }
 
 void TSDIAppForm::TabSet1Click(int index) {
-  const int page = index + 1;
-  if (page >= kFirstOutputPage && series_.SeriesCount() < 2) {
-    controls::ShowMessage(this, tr("Please insert two or more files."));
-    tabSet1_->setCurrentIndex(1);
+  const auto page = static_cast<MainPage>(index + 1);
+  if (IsOutputPage(page) && series_->Count() < 2) {
+    controls::ShowMessage(this, kTwoFilesNeeded);
+    tabSet1_->setCurrentIndex(static_cast<int>(MainPage::Input) - 1);
     return;
   }
-  pageNumber_ = page;
+  page_ = page;
   notebook1_->setCurrentIndex(index);
-  EnterOutputPage(page);
+  outputs_->EnterPage(page);
 }
 
 void TSDIAppForm::ShowDiagram(graphwin::DiagramWindow window, graphwin::DisplayMode mode) {
   displayMode_ = mode;
   connectForWindows_ = frequencyPage_->ConnectFrequencyPoints();
-  graphwin::TGraphForm* shown = forms_.DiagramWindowOf(window);
+  graphwin::TGraphForm* shown = lookups_.diagramWindow(window);
   if (!shown) {
-    statusBar()->showMessage(tr("This diagram window is not available yet."));
+    statusBar()->showMessage(QStringLiteral("This diagram window is not available yet."));
     return;
   }
   shown->ShowFromMain();
@@ -228,13 +217,15 @@ graphwin::plots::GraphInputs TSDIAppForm::GraphInputs() const {
 }
 
 void TSDIAppForm::Help1Click() {
-  QDialog* box = pageNumber_ == 1 ? static_cast<QDialog*>(forms_.HilfeBox()) : forms_.HilfeFOMBox();
+  QDialog* box = lookups_.box(page_ == MainPage::Frequency ? MainBox::Help : MainBox::FomHelp);
   box->show();
   box->raise();
 }
 
 void TSDIAppForm::VortoHelp1Click() {
-  if (!OpenHelpFile()) controls::ShowMessage(this, tr("Help file not available. Look at Vorto manual in pdf format."));
+  if (!OpenHelpFile()) {
+    controls::ShowMessage(this, QStringLiteral("Help file not available. Look at Vorto manual in pdf format."));
+  }
 }
 
 void TSDIAppForm::StayInFront1Click(bool checked) {
@@ -244,11 +235,13 @@ void TSDIAppForm::StayInFront1Click(bool checked) {
 
 void TSDIAppForm::SetPrinterHint() {
   if (QPrinterInfo::availablePrinterNames().isEmpty()) return;
-  drucken1_->setStatusTip(tr("Print window with ") + QPrinterInfo::defaultPrinterName());
+  drucken1_->setStatusTip(QStringLiteral("Print window with %1").arg(QPrinterInfo::defaultPrinterName()));
 }
 
-TGraphPage& TSDIAppForm::GraphPage(diagram::pages::OutputPage page) const {
-  return *graphPages_[static_cast<std::size_t>(page)];
-}
+series::SeriesList& TSDIAppForm::Series() { return series_->List(); }
+const series::SeriesArrays& TSDIAppForm::Results() const { return series_->Results(); }
+THistoryList& TSDIAppForm::HistoryList() { return loading_->HistoryList(); }
+
+TGraphPage& TSDIAppForm::GraphPage(diagram::pages::OutputPage page) const { return outputs_->GraphPage(page); }
 
 }  // namespace mainwin

@@ -26,10 +26,10 @@ constexpr CheckedColumn kCheckedColumns[] = {{2, series::CheckedFigure::FT}, {3,
 const QColor kDoubtfulShade(255, 214, 153);
 
 QWidget* MakeCheckLegend(QWidget* parent) {
-  auto* legend = new QLabel(QObject::tr("Shaded fT, fmax: doubtful at fo"), parent);
+  auto* legend = new QLabel(QStringLiteral("Shaded fT, fmax: doubtful at fo"), parent);
   legend->setObjectName("LabelCheckLegend");
-  legend->setToolTip(QObject::tr("Slope outside -20 ± 3 dB per decade, fmax from MSG (k < 1), or more than 10 % "
-                                 "from where the sweep crosses 1. Point at a value for its check."));
+  legend->setToolTip(QStringLiteral("Slope outside -20 ± 3 dB per decade, fmax from MSG (k < 1), or more than 10 % "
+                                    "from where the sweep crosses 1. Point at a value for its check."));
   legend->setStyleSheet(QStringLiteral("background-color: %1").arg(kDoubtfulShade.name()));
   return legend;
 }
@@ -53,12 +53,12 @@ QFont CompactFont(QFont font) {
 QLineEdit* MakeCommentEdit(QWidget* parent, const char* name, const QString& text) {
   auto* edit = new QLineEdit(text, parent);
   edit->setObjectName(name);
-  edit->setToolTip(QObject::tr("Here you can place a text"));
+  edit->setToolTip(QStringLiteral("Here you can place a text"));
   edit->setStatusTip(edit->toolTip());
   return edit;
 }
 
-QWidget* MakeTablePage(QWidget* parent) {
+TablePage MakeTablePage(QWidget* parent) {
   auto* page = new QWidget(parent);
   auto* layout = new QVBoxLayout(page);
   auto* grid = new controls::TStringAlignGrid(kTableColumns, kTableRows, page);
@@ -71,12 +71,13 @@ QWidget* MakeTablePage(QWidget* parent) {
   grid->horizontalHeader()->setStretchLastSection(true);
   grid->SetDefaultRowHeight(18);
   grid->SetFixedRows(1);
+  QLineEdit* comment = MakeCommentEdit(page, "EditComment3", QStringLiteral("Output"));
   auto* top = new QHBoxLayout;
-  top->addWidget(MakeCommentEdit(page, "EditComment3", QObject::tr("Output")), 1);
+  top->addWidget(comment, 1);
   top->addWidget(MakeCheckLegend(page));
   layout->addLayout(top);
   layout->addWidget(grid, 1);
-  return page;
+  return {page, comment, grid};
 }
 
 void ShowResultTable(controls::TStringAlignGrid& grid, const series::SeriesList& list, const series::SeriesArrays& results,

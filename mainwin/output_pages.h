@@ -27,7 +27,12 @@ QLineEdit* MakeCommentEdit(QWidget* parent, const char* name, const QString& tex
 
 // The table page: comment edit EditComment3 and the grid StringAlignGridTab (8 columns, a header
 // row and 41 result rows).
-QWidget* MakeTablePage(QWidget* parent);
+struct TablePage {
+  QWidget* page;
+  QLineEdit* comment;
+  controls::TStringAlignGrid* grid;
+};
+TablePage MakeTablePage(QWidget* parent);
 
 // Rows 1..count from the results; column 7 holds the current density only when it is asked for.
 // The remaining rows are cleared.

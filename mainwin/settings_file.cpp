@@ -68,34 +68,36 @@ FrequencyUnit MultiplierUnit(double multiplier) {
 
 double UnitMultiplier(FrequencyUnit unit) {
   switch (unit) {
-    case FrequencyUnit::Hz: return 1;
-    case FrequencyUnit::MHz: return 1e6;
-    case FrequencyUnit::GHz: return 1e9;
+    case FrequencyUnit::Hz: return series::kMultiplierHz;
+    case FrequencyUnit::MHz: return series::kMultiplierMHz;
+    case FrequencyUnit::GHz: return series::kMultiplierGHz;
   }
-  return 1;
+  return series::kMultiplierHz;
 }
 
 IniSettings ReadIniSettings(const IniFile& ini) {
   IniSettings s;
-  s.fo = ReadNumber(ini, QStringLiteral("fo"), kDefaultFo);
-  s.lgnd = ReadNumber(ini, QStringLiteral("Lgnd"), kDefaultLgnd);
-  s.area = ReadNumber(ini, QStringLiteral("Area"), kDefaultArea);
-  s.fMultiplier = ReadNumber(ini, QStringLiteral("f Multiplier"), kDefaultMultiplier);
+  series::SeriesSettings& e = s.entries;
+  e.fo = ReadNumber(ini, QStringLiteral("fo"), e.fo);
+  e.lgnd = ReadNumber(ini, QStringLiteral("Lgnd"), e.lgnd);
+  e.area = ReadNumber(ini, QStringLiteral("Area"), e.area);
+  e.multiplier = ReadNumber(ini, QStringLiteral("f Multiplier"), e.multiplier);
   s.comment = UnescapeLineEnds(ini.ReadString(kVariables, QStringLiteral("Comment"), QString())).left(kMostCommentChars);
-  s.withLgnd = ReadOption(ini, QStringLiteral("With Lgnd"));
-  s.jOutput = ReadOption(ini, QStringLiteral("j Output"));
+  e.withLgnd = ReadOption(ini, QStringLiteral("With Lgnd"));
+  e.density = ReadOption(ini, QStringLiteral("j Output"));
   s.connectPoints = ReadOption(ini, QStringLiteral("Connect Points"));
   return s;
 }
 
 void WriteIniSettings(const IniSettings& s, IniFile& ini) {
-  WriteNumber(ini, QStringLiteral("fo"), s.fo);
-  WriteNumber(ini, QStringLiteral("Lgnd"), s.lgnd);
-  WriteNumber(ini, QStringLiteral("Area"), s.area);
-  WriteNumber(ini, QStringLiteral("f Multiplier"), s.fMultiplier);
+  const series::SeriesSettings& e = s.entries;
+  WriteNumber(ini, QStringLiteral("fo"), e.fo);
+  WriteNumber(ini, QStringLiteral("Lgnd"), e.lgnd);
+  WriteNumber(ini, QStringLiteral("Area"), e.area);
+  WriteNumber(ini, QStringLiteral("f Multiplier"), e.multiplier);
   ini.WriteString(kVariables, QStringLiteral("Comment"), EscapeLineEnds(s.comment));
-  WriteOption(ini, QStringLiteral("With Lgnd"), s.withLgnd);
-  WriteOption(ini, QStringLiteral("j Output"), s.jOutput);
+  WriteOption(ini, QStringLiteral("With Lgnd"), e.withLgnd);
+  WriteOption(ini, QStringLiteral("j Output"), e.density);
   WriteOption(ini, QStringLiteral("Connect Points"), s.connectPoints);
 }
 

@@ -3,16 +3,11 @@
 #include <QString>
 
 #include "ini_file.h"
+#include "series/series_settings.h"
 
 // The entry values kept in netrix.ini between runs: section "Variablen" holds the numbers and the
 // comment, section "Options" the switches.
 namespace mainwin {
-
-// Built-in values before any settings file was read; the same as the entry fields' first texts.
-inline constexpr double kDefaultFo = 2e9;         // Hz
-inline constexpr double kDefaultLgnd = 100e-12;   // H
-inline constexpr double kDefaultArea = 1000;      // square micrometres
-inline constexpr double kDefaultMultiplier = 1e6;
 
 enum class FrequencyUnit { Hz, MHz, GHz };
 
@@ -20,14 +15,11 @@ enum class FrequencyUnit { Hz, MHz, GHz };
 FrequencyUnit MultiplierUnit(double multiplier);
 double UnitMultiplier(FrequencyUnit unit);
 
+// The stored entries are those of the series evaluation (fo, lgnd, area, multiplier, withLgnd and
+// density, as "j Output"), before any settings file was read the series' built-in values.
 struct IniSettings {
-  double fo = kDefaultFo;
-  double lgnd = kDefaultLgnd;
-  double area = kDefaultArea;
-  double fMultiplier = kDefaultMultiplier;
+  series::SeriesSettings entries = series::DefaultSeriesSettings();
   QString comment;
-  bool withLgnd = false;
-  bool jOutput = false;
   bool connectPoints = false;
 };
 

@@ -48,23 +48,26 @@ QString WriteProblem(const QString& path) {
 }
 
 QString IniNotSavedMessage(const QString& path, const QString& reason) {
-  return QObject::tr("The settings were not saved: %1 cannot be read (%2), and saving would replace what it holds. "
-                     "Move it out of the way to keep the settings next time!")
+  return QStringLiteral(
+             "The settings were not saved: %1 cannot be read (%2), and saving would replace what it holds. "
+             "Move it out of the way to keep the settings next time!")
       .arg(path, reason);
 }
 
 QString IniSaveFailedMessage(const QString& path, const QString& reason) {
-  return QObject::tr("The settings could not be saved to %1 (%2). Check that file and its folder to keep them next "
-                     "time!")
+  return QStringLiteral(
+             "The settings could not be saved to %1 (%2). Check that file and its folder to keep them next "
+             "time!")
       .arg(path, reason);
 }
 
 QString StoreReadMessage(const QSettings& settings) {
   if (settings.status() == QSettings::NoError) return {};
-  const QString reason = settings.status() == QSettings::FormatError ? QObject::tr("its content is not understood")
-                                                                      : ReadProblem(settings.fileName());
-  return QObject::tr("The recent files and the window's place could not be read from %1 (%2); the program starts "
-                     "without them.")
+  const QString reason = settings.status() == QSettings::FormatError ? QStringLiteral("its content is not understood")
+                                                                     : ReadProblem(settings.fileName());
+  return QStringLiteral(
+             "The recent files and the window's place could not be read from %1 (%2); the program starts "
+             "without them.")
       .arg(settings.fileName(), reason);
 }
 
@@ -75,8 +78,9 @@ QString StoreWriteMessage(QSettings& settings) {
   if (settings.status() == QSettings::NoError) return {};
   const QString reason = WriteProblem(settings.fileName());
   if (reason.isEmpty()) return {};
-  return QObject::tr("The recent files and the window's place could not be saved to %1 (%2). Check that file and "
-                     "its folder to keep them next time!")
+  return QStringLiteral(
+             "The recent files and the window's place could not be saved to %1 (%2). Check that file and "
+             "its folder to keep them next time!")
       .arg(settings.fileName(), reason);
 }
 

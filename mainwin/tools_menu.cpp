@@ -24,13 +24,13 @@ ProgramStart StartFirstFound(const QStringList& programs, const QStringList& arg
     const QString path = QStandardPaths::findExecutable(program);
     if (!path.isEmpty() && QProcess::startDetached(path, arguments)) return {true, {}};
   }
-  return {false, QObject::tr("none of %1 could be started").arg(programs.join(", "))};
+  return {false, QStringLiteral("none of %1 could be started").arg(programs.join(", "))};
 }
 
 // The desktop's opener for the address (xdg-open or the desktop's own).
 ProgramStart OpenWithDesktop(const QUrl& address) {
   if (QDesktopServices::openUrl(address)) return {true, {}};
-  return {false, QObject::tr("the desktop has no program that opens %1").arg(address.toString())};
+  return {false, QStringLiteral("the desktop has no program that opens %1").arg(address.toString())};
 }
 
 }  // namespace

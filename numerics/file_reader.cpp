@@ -85,6 +85,10 @@ double ReadPlain(std::string_view content, const std::string& fileName, TwoPortD
 
 }  // namespace
 
+std::string MissingFileMessage(const std::string& fileName) { return "File " + fileName + " is not present!"; }
+
+std::string StoreFullMessage() { return "No more than " + std::to_string(kMaxDataSets) + " files can be open!"; }
+
 double ReadFrequencyField(TextCursor& in) {
   const LineStart line = ReadLineStart(in);
   if (line.kind == LineStartKind::Marker) in.SkipLine();
@@ -97,7 +101,7 @@ double ReadFrequencyField(TextCursor& in) {
 LoadOutcome LoadTwoPortText(DataSetStore& store, std::string_view content, const std::string& fileName,
                             const ReadingChoice& choice) {
   if (store.openCount >= kMaxDataSets) {
-    return {LoadStatus::StoreFull, 0, "No more than " + std::to_string(kMaxDataSets) + " files can be open!", {}};
+    return {LoadStatus::StoreFull, 0, StoreFullMessage(), {}};
   }
   auto set = std::make_unique<TwoPortDataSet>();
   ReadNotes notes;
@@ -120,7 +124,7 @@ LoadOutcome LoadTwoPortText(DataSetStore& store, std::string_view content, const
 LoadOutcome LoadTwoPortFile(DataSetStore& store, const std::string& fileName, const ReadingChoice& choice) {
   std::error_code ec;
   if (!std::filesystem::exists(fileName, ec)) {
-    return {LoadStatus::Missing, 0, "File " + fileName + " is not present!", {}};
+    return {LoadStatus::Missing, 0, MissingFileMessage(fileName), {}};
   }
   if (store.openCount >= kMaxDataSets) return LoadTwoPortText(store, {}, fileName, choice);
   std::string reason;

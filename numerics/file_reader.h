@@ -34,6 +34,10 @@ struct LoadOutcome {
 // be a header; the field is bounded to 1e-9 .. 1e15 Hz.
 double ReadFrequencyField(TextCursor& in);
 
+// What a load says of a file that does not exist, and of a fifth file while four are open.
+std::string MissingFileMessage(const std::string& fileName);
+std::string StoreFullMessage();
+
 // Reads one file into the next free data set of the store. A missing file, a full store or a
 // file that cannot be read leaves the store exactly as it was and says why in the outcome.
 LoadOutcome LoadTwoPortFile(DataSetStore& store, const std::string& fileName, const ReadingChoice& choice = {});

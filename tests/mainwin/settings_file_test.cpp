@@ -77,7 +77,7 @@ void SettingsFileTest::ReadsOnlyWhatTheFieldsHoldAndWritesWhatReadsBack_data() {
   QTest::addColumn<double>("read");
   QTest::addColumn<double>("typed");    // the entry's value when the window closes
   QTest::addColumn<double>("written");  // what the next start reads
-  const double fo = mainwin::kDefaultFo;
+  const double fo = series::DefaultSeriesSettings().fo;
   QTest::newRow("a million digits") << QString(1000000, '1') << fo << fo << fo;
   QTest::newRow("beyond double") << "1e999" << fo << fo << fo;
   // The prefix field writes 1e15 as "1.00E+150"; it is written in plain exponent form instead.
@@ -95,11 +95,11 @@ void SettingsFileTest::ReadsOnlyWhatTheFieldsHoldAndWritesWhatReadsBack() {
   ini.WriteString("Variablen", "fo", stored);
   ini.WriteString("Variablen", "Comment", stored);  // the page keeps 1000 characters of it
   mainwin::IniSettings settings = mainwin::ReadIniSettings(ini);
-  QCOMPARE(settings.fo, read);
+  QCOMPARE(settings.entries.fo, read);
   QCOMPARE(settings.comment, stored.left(1000));
-  settings.fo = typed;
+  settings.entries.fo = typed;
   mainwin::WriteIniSettings(settings, ini);
-  QCOMPARE(mainwin::ReadIniSettings(IniFile::Parse(ini.Bytes())).fo, written);
+  QCOMPARE(mainwin::ReadIniSettings(IniFile::Parse(ini.Bytes())).entries.fo, written);
 }
 
 void SettingsFileTest::MultiplierSelectsRadioButton_data() {
@@ -117,7 +117,7 @@ void SettingsFileTest::MultiplierSelectsRadioButton() {
   QFETCH(FrequencyUnit, unit);
   IniFile ini;
   if (!stored.isNull()) ini.WriteString("Variablen", "f Multiplier", stored);
-  QCOMPARE(mainwin::MultiplierUnit(mainwin::ReadIniSettings(ini).fMultiplier), unit);
+  QCOMPARE(mainwin::MultiplierUnit(mainwin::ReadIniSettings(ini).entries.multiplier), unit);
 }
 
 void SettingsFileTest::CommentLinesSurviveOneLineStorage_data() {
