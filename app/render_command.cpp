@@ -9,7 +9,7 @@
 #include "render_options.h"
 #include "render_output.h"
 #include "atomic_file.h"
-#include "gain_view.h"
+#include "frequency_views.h"
 #include "graphwin/plots/curve_table.h"
 #include "render_views.h"
 #include "series_render.h"
@@ -27,10 +27,10 @@ std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, Ren
   return {};
 }
 
-// The gain view's curves as the window's "Export Curves as CSV..." writes them.
+// The curves of a view against frequency as the window's "Export Curves as CSV..." writes them.
 std::string WriteCurveTable(const RenderInput& input) {
   std::string error;
-  WriteFileAtomically(input.options.dataPath, graphwin::plots::CurveTableCsv(GainPlotOf(input)), error);
+  WriteFileAtomically(input.options.dataPath, graphwin::plots::CurveTableCsv(FrequencyPlotOf(input)), error);
   return error;
 }
 

@@ -5,6 +5,8 @@
 
 #include "diagram/smith_chart.h"
 #include "graphwin/plots/gain_plot.h"
+#include "graphwin/plots/impedance_plot.h"
+#include "graphwin/plots/stability_plot.h"
 
 // The command line of netrix --render, parsed but not yet checked against the views, the
 // picture formats and the file system.
@@ -15,6 +17,8 @@ inline constexpr int kMaxQArcs = 6;
 inline constexpr int kMinRenderSide = 64;
 inline constexpr int kMaxRenderSide = 10000;
 inline constexpr const char* kGainView = "gain";
+inline constexpr const char* kStabilityView = "stability";
+inline constexpr const char* kImpedanceView = "impedance";
 
 struct RenderOptions {
   std::string view;
@@ -24,11 +28,16 @@ struct RenderOptions {
   diagram::ChartKind chart = diagram::ChartKind::Impedance;
   std::vector<double> qValues;
   bool spline = true;
-  // The gain view's: the curves drawn, a logarithmic frequency axis, the CSV file of the curves.
+  // The views against frequency: the curves drawn, the impedance view's mode, a logarithmic
+  // frequency axis, the CSV file of the curves.
   graphwin::plots::GainChoice gainCurves;
+  graphwin::plots::StabilityChoice stabilityCurves;
+  graphwin::plots::ImpedanceChoice impedanceCurves;
+  graphwin::plots::ImpedanceMode impedanceMode = graphwin::plots::ImpedanceMode::Magnitude;
   bool xlog = false;
   std::string dataPath;
-  bool gainOptionsGiven = false;
+  bool frequencyOptionsGiven = false;
+  bool modeGiven = false;
   std::vector<std::string> files;
 };
 
@@ -41,7 +50,9 @@ struct ParsedRenderOptions {
 std::string ParseSize(const std::string& text, int& width, int& height);
 
 // args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]
-//       [--curves mag,u,mug,s21] [--xlog] [--data CSV] FILE...
+//       [--curves NAMES] [--mode mag|re|q] [--xlog] [--data CSV] FILE...
+// where the curve names are the view's: mag,u,mug,s21 (gain), k,u,mu (stability) or
+// port1,port2,pi,image,sym (impedance).
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
 
 }  // namespace app

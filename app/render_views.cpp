@@ -5,7 +5,7 @@
 #include <iterator>
 
 #include "diagram/sparameter_views.h"
-#include "gain_view.h"
+#include "frequency_views.h"
 
 namespace app {
 namespace {
@@ -26,7 +26,9 @@ constexpr RenderView kViews[] = {
     {"smith", DrawScene<diagram::DrawSmithView>},
     {"polar", DrawScene<diagram::DrawPolarView>},
     {"cartesian", DrawScene<diagram::DrawCartesianView>},
-    {kGainView, DrawGainView},
+    {kGainView, DrawFrequencyView},
+    {kStabilityView, DrawFrequencyView},
+    {kImpedanceView, DrawFrequencyView},
 };
 
 }  // namespace

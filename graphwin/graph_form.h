@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointF>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -14,6 +15,7 @@
 #include "window_rules.h"
 
 class QAction;
+class QCheckBox;
 class QLabel;
 class QMenu;
 class QPrinter;
@@ -25,14 +27,26 @@ class QToolButton;
 // the curve export and printing. A window adds what it plots, its defaults and its read-out.
 namespace graphwin {
 
+class FrequencyCursor;
 class TDiagramImage;
 class TGRHilfeBox;
 class TXmaxDlg1;
 
-// The dialogs all graph windows share; created after the windows, so filled in later.
+// The dialogs all graph windows share, created after the windows and so filled in later, and
+// the frequency cursor that links the open windows (none: the window stands alone).
 struct GraphDialogs {
   TGRHilfeBox* help = nullptr;
   TXmaxDlg1* axisValue = nullptr;
+  FrequencyCursor* cursor = nullptr;
+};
+
+// A window's check box on the tool bar; row 1 lies below the buttons.
+struct CheckBoxLook {
+  const char* name;
+  int left;
+  const char* caption;
+  const char* hint;
+  int row = 0;
 };
 
 using InputsSource = std::function<plots::GraphInputs()>;
@@ -54,18 +68,26 @@ class TGraphForm : public QMainWindow {
   const QImage& Picture() const;
   // The window's picture drawn afresh at size on any device; the screen's diagram state stays.
   void PaintPicture(QPainter& painter, QSize size);
+  // Marks the frequency on the curves, over the picture, and in the read-out; none clears both.
+  void ShowCursor(std::optional<double> frequency);
 
  protected:
   // Window-specific controls go right of the zoom buttons, at these left positions.
   QWidget* ToolPanel() const { return panel1_; }
   // A window's own item of the "&File" menu, after the picture saves.
   QAction* InsertFileItem(const char* name, const QString& caption);
+  // A window's own display mode, first in the "&Scales" menu, in the order inserted.
+  QAction* InsertScalesItem(const char* name, const QString& caption);
+  QCheckBox* AddCheckBox(const CheckBoxLook& look, bool checked);
+  QPrinter& Printer();
   const plots::GraphInputs& Inputs() const { return inputs_; }
   // The page's display options and the dot cycle, as the drawing takes them.
   plots::PlotLook Look() const;
   void Redraw();
   // Writes a text file whole or not at all; a failure is reported.
   void WriteTextFile(const QString& path, const std::string& text);
+  // The hidden "Save Table" of the gain and stability windows: asks for the file, writes the text.
+  void SaveTable(const std::string& text);
 
   virtual void ComputeCurves() = 0;
   // The ranges, steps, crossing and label counts the window starts with.
@@ -74,11 +96,21 @@ class TGraphForm : public QMainWindow {
   virtual void DrawPicture(diagram::Canvas& canvas) = 0;
   virtual std::string ReadOutText(double x, double y) const = 0;
   virtual Bounds AxisBounds(AxisEnd end) const = 0;
+  // The axis dialog's label for an axis end: "xmax=" and so on.
+  virtual std::string AxisLabel(AxisEnd end) const;
+  // The printed page: the diagram drawn afresh, as wide as the page in the picture's proportions.
+  virtual void PrintPage(QPainter& painter, QSize page);
+  // The curves against frequency; null where the x axis is not frequency (a locus). The defaults
+  // below and the frequency cursor take them from here.
+  virtual const plots::FrequencyPlot* FrequencyCurves() const { return nullptr; }
+  // Where a frequency lies on the window's curves, as world points: by default on each curve
+  // against frequency that spans it, between its neighbouring points. A locus window overrides it.
+  virtual std::vector<QPointF> CursorPoints(double frequency) const;
   // What the autoscales look at.
-  virtual std::vector<double> XValues() const = 0;
-  virtual std::vector<double> YValues() const = 0;
+  virtual std::vector<double> XValues() const;
+  virtual std::vector<double> YValues() const;
   // The curves as plotted, as CSV text.
-  virtual std::string CurvesCsv() const = 0;
+  virtual std::string CurvesCsv() const;
 
   bool event(QEvent* event) override;
 
@@ -96,6 +128,9 @@ class TGraphForm : public QMainWindow {
   void ImageMouseMove(QPoint at);
   void ImageMouseUp(QPoint at, Qt::MouseButton button);
   void ImageDblClick();
+  // The frequency of the first active file nearest to the mouse: by the column alone where x is
+  // frequency, else by the distance to the cursor's points.
+  std::optional<double> NearestFrequency(QPoint at) const;
   void AskAxisLimit(AxisEnd end, QPoint at);
   double AskValue(const QString& label, double value, Bounds bounds, QPoint position);
   void Ursprungfestlegen1Click();
@@ -111,7 +146,6 @@ class TGraphForm : public QMainWindow {
   void SaveasGIF1Click();
   void ExportCurves1Click();
   void Print1Click();
-  QPrinter& Printer();
 
   InputsSource source_;
   const GraphDialogs& dialogs_;
@@ -125,9 +159,12 @@ class TGraphForm : public QMainWindow {
   std::unique_ptr<QPrinter> printer_;
   QMenu* file1_ = nullptr;
   QAction* exportCurves1_ = nullptr;  // the window's own file items go before it
+  QMenu* skalierung1_ = nullptr;
+  QAction* modesEnd_ = nullptr;  // the separator after the window's own display modes
   QWidget* panel1_ = nullptr;
   TDiagramImage* image_ = nullptr;
   QLabel* currentPanel_ = nullptr;
+  QLabel* cursorPanel_ = nullptr;
   QAction* xlog1_ = nullptr;
   QAction* ylog1_ = nullptr;
 };

@@ -6,7 +6,9 @@
 #include "about_box.h"
 #include "graphwin/grhilfe.h"
 #include "graphwin/gwin.h"
+#include "graphwin/kwin.h"
 #include "graphwin/xmax_dlg.h"
+#include "graphwin/zwin.h"
 #include "help_boxes.h"
 #include "main_window.h"
 
@@ -20,11 +22,13 @@ struct FormFactories {
   static QWidget* CreateSDIAppForm(FormSet& forms, const QStringList& arguments) {
     return forms.sdiAppForm_ = new TSDIAppForm(forms, arguments);
   }
-  static QWidget* CreateFormG(FormSet& forms, const QStringList&) {
+  // A graph window that draws from the main window's files and options.
+  template <typename Window, graphwin::DiagramWindow kind>
+  static QWidget* CreateGraphForm(FormSet& forms, const QStringList&) {
     TSDIAppForm* main = forms.sdiAppForm_;
-    forms.formG_ = new graphwin::TFormG([main] { return main->GraphInputs(); }, forms.graphDialogs_);
-    forms.diagramWindows_[static_cast<std::size_t>(graphwin::DiagramWindow::Gain)] = forms.formG_;
-    return forms.formG_;
+    auto* window = new Window([main] { return main->GraphInputs(); }, forms.graphDialogs_);
+    forms.diagramWindows_[static_cast<std::size_t>(kind)] = window;
+    return window;
   }
   static QWidget* CreateGRHilfeBox(FormSet& forms, const QStringList&) {
     return forms.graphDialogs_.help = new graphwin::TGRHilfeBox;
@@ -42,8 +46,16 @@ struct FormFactories {
     return forms.hilfeBox_ = new THilfeBox;
   }
 
-  static constexpr Factory kCreationOrder[] = {CreateSDIAppForm, CreateFormG,    CreateGRHilfeBox, CreateXmaxDlg1,
-                                               CreateAboutBox,   CreateHilfeFOMBox, CreateHilfeBox};
+  static constexpr Factory kCreationOrder[] = {
+      CreateSDIAppForm,
+      CreateGraphForm<graphwin::TFormG, graphwin::DiagramWindow::Gain>,
+      CreateGraphForm<graphwin::TFormK, graphwin::DiagramWindow::Stability>,
+      CreateGraphForm<graphwin::TFormZ, graphwin::DiagramWindow::Impedance>,
+      CreateGRHilfeBox,
+      CreateXmaxDlg1,
+      CreateAboutBox,
+      CreateHilfeFOMBox,
+      CreateHilfeBox};
 };
 
 FormSet::FormSet(const QStringList& arguments) {
@@ -61,6 +73,10 @@ graphwin::TGraphForm* FormSet::DiagramWindowOf(graphwin::DiagramWindow window) c
   const auto index = static_cast<std::size_t>(window);
   assert(index < diagramWindows_.size());
   return diagramWindows_[index];
+}
+
+graphwin::TFormG* FormSet::FormG() const {
+  return static_cast<graphwin::TFormG*>(DiagramWindowOf(graphwin::DiagramWindow::Gain));
 }
 
 void InitialiseApplication() {

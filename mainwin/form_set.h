@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "graphwin/display_mode.h"
+#include "graphwin/frequency_cursor.h"
 #include "graphwin/graph_form.h"
 
 class QWidget;
@@ -37,7 +38,7 @@ class FormSet {
   TAboutBox* AboutBox() const { return aboutBox_; }
   THilfeFOMBox* HilfeFOMBox() const { return hilfeFomBox_; }
   THilfeBox* HilfeBox() const { return hilfeBox_; }
-  graphwin::TFormG* FormG() const { return formG_; }
+  graphwin::TFormG* FormG() const;
   graphwin::TGRHilfeBox* GRHilfeBox() const { return graphDialogs_.help; }
   graphwin::TXmaxDlg1* XmaxDlg1() const { return graphDialogs_.axisValue; }
   // The graph window of a diagram button; null while that window is not part of the program.
@@ -51,8 +52,8 @@ class FormSet {
   TAboutBox* aboutBox_ = nullptr;
   THilfeFOMBox* hilfeFomBox_ = nullptr;
   THilfeBox* hilfeBox_ = nullptr;
-  graphwin::TFormG* formG_ = nullptr;
-  graphwin::GraphDialogs graphDialogs_;
+  graphwin::FrequencyCursor cursor_;  // before the windows that register with it, so it outlives them
+  graphwin::GraphDialogs graphDialogs_{nullptr, nullptr, &cursor_};
   std::array<graphwin::TGraphForm*, graphwin::kDiagramWindowCount> diagramWindows_{};
 };
 

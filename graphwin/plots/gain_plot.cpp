@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "figure_curves.h"
+#include "frequency_defaults.h"
 #include "numerics/figures.h"
 #include "numerics/prefixed_number.h"
 #include "numerics/real_functions.h"
@@ -15,11 +16,7 @@ namespace {
 
 using numerics::Decibels;
 
-constexpr double kLowestGainDb = -20;
-constexpr double kHighestGainDb = 40;
-constexpr int kGainLabelEvery = 10;
-// Without a point to scale to, the frequency axis still gets a frame.
-constexpr double kFallbackHighestFrequency = 1e10;
+constexpr FrequencyDefaults kGainDefaults{100, -20, 40, 1, 10};
 
 struct GainFigure {
   bool GainChoice::*box;
@@ -68,20 +65,15 @@ FrequencyPlot BuildGainPlot(const GraphInputs& inputs, const GainChoice& choice)
 }
 
 void SetGainDefaults(diagram::Diagram& d, double highestFrequency) {
-  d.xMax = numerics::NiceStep(highestFrequency > 0 ? highestFrequency : kFallbackHighestFrequency);
-  d.xMin = d.xMax / 100;
-  d.xStep = numerics::NiceStep(d.xMax / 50);
-  d.yMin = kLowestGainDb;
-  d.yMax = kHighestGainDb;
-  d.yStep = 1;
-  d.xCross = d.xMin;
-  d.yCross = 0;
-  d.xLabelEvery = d.yLabelEvery = kGainLabelEvery;
-  d.firstIndex = 0;
+  SetFrequencyDefaults(d, highestFrequency, kGainDefaults);
 }
 
 std::string GainTableText(double f0) {
-  std::string text = "Calculated Values by NETRIX : f/Hz MAG/dB MSG/dB MUG/dB Mason/dB   k\n";
+  return TableText("Calculated Values by NETRIX : f/Hz MAG/dB MSG/dB MUG/dB Mason/dB   k", f0);
+}
+
+std::string TableText(const std::string& header, double f0) {
+  std::string text = header + "\n";
   const double last = numerics::RoundUpOneDigit(2 * f0);
   const double first = numerics::NiceStep(f0 / 100);
   const double step = numerics::NiceStep(first / 3);
@@ -91,7 +83,7 @@ std::string GainTableText(double f0) {
 }
 
 std::string GainReadOut(double x, double y) {
-  return "Position : f=" + numerics::FormatPrefixed(2, x) + "Hz, Gain=" + numerics::FloatTextTrimmed(2, y) + "dB (" +
+  return PositionText(x) + "Gain=" + numerics::FloatTextTrimmed(2, y) + "dB (" +
          numerics::FormatPrefixed(2, std::pow(10.0, y / 10)) + ")";
 }
 
