@@ -33,11 +33,14 @@ std::string UsageText() {
   return "Usage:\n"
          "  netrix [FILE...]\n"
          "      Open the main window with up to four S-parameter files loaded.\n"
-         "  netrix --figures FILE\n"
+         "  netrix --figures [--touchstone] FILE\n"
          "      Print the gain and stability figures of every point of FILE as CSV:\n"
-         "      f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs\n" +
+         "      f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs\n"
+         "      --touchstone reads FILE as a Touchstone file (option line, comments, formats,\n"
+         "      parameter types, version 2.0 keywords, noise block) instead of the plain format.\n" +
          SeriesUsageText() +
-         "  netrix --render VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline] FILE...\n"
+         "  netrix --render VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]\n"
+         "                 [--touchstone] FILE...\n"
          "      Draw up to four files into a picture without a display. VIEW is smith (S11 and\n"
          "      S22 in the Smith chart, up to six constant-Q arcs), polar (S21 and S12) or\n"
          "      cartesian (|S21| in dB against frequency). The format follows the extension of\n"

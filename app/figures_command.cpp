@@ -8,6 +8,7 @@
 #include "numerics/file_reader.h"
 #include "numerics/real_functions.h"
 #include "numerics/text_functions.h"
+#include "touchstone_option.h"
 
 namespace app {
 namespace {
@@ -44,16 +45,26 @@ std::string FiguresLine(double frequency, const numerics::SParameters& point) {
 }  // namespace
 
 int RunFiguresCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-  if (args.size() != 1) {
+  std::vector<std::string> files;
+  numerics::ReadingChoice choice;
+  for (const std::string& arg : args) {
+    if (arg == kTouchstoneOption) {
+      choice.reading = numerics::FileReading::Touchstone;
+    } else {
+      files.push_back(arg);
+    }
+  }
+  if (files.size() != 1) {
     err << "netrix --figures needs exactly one file name, for example: netrix --figures amplifier.s2p\n";
     return 1;
   }
   numerics::DataSetStore& store = numerics::DataSets();
-  const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, args.front());
+  const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, files.front(), choice);
   if (outcome.status != numerics::LoadStatus::Loaded) {
     err << outcome.message << '\n';
     return 1;
   }
+  for (const std::string& note : outcome.notes) err << note << '\n';
   const numerics::TwoPortDataSet& set = store.sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)];
   out << kHeader << '\n';
   for (int i = 0; i < set.pointCount; ++i) {

@@ -17,11 +17,14 @@
 namespace app {
 namespace {
 
-// Reads the files into a store of the command's own; the first failure is the message.
-std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, RenderInput& input) {
+// Reads the files into a store of the command's own; the first failure is the message. What a
+// read left out or did not apply goes to err.
+std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, RenderInput& input, std::ostream& err) {
+  const numerics::ReadingChoice choice{o.touchstone ? numerics::FileReading::Touchstone : numerics::FileReading::Plain};
   for (const std::string& file : o.files) {
-    const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, file);
+    const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, file, choice);
     if (outcome.status != numerics::LoadStatus::Loaded) return outcome.message;
+    for (const std::string& note : outcome.notes) err << note << '\n';
     input.sets.push_back(&store.sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)]);
   }
   return {};
@@ -59,7 +62,7 @@ int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::o
   }
   const auto store = std::make_unique<numerics::DataSetStore>();
   RenderInput input{o, {}};
-  if (const std::string failed = LoadFiles(o, *store, input); !failed.empty()) return Fail(err, failed);
+  if (const std::string failed = LoadFiles(o, *store, input, err); !failed.empty()) return Fail(err, failed);
   const GuiSession session;
   const imageexport::ExportResult written = format->write(o.outPath, o.width, o.height, [&](QPainter& painter) {
     diagram::Canvas canvas(painter, o.width, o.height);

@@ -7,6 +7,7 @@
 
 #include "numerics/prefixed_number.h"
 #include "numerics/real_functions.h"
+#include "touchstone_option.h"
 
 namespace app {
 namespace {
@@ -105,6 +106,10 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
   o.modeGiven = o.modeGiven || name == "--mode";
   if (name == "--xlog") {
     o.xlog = true;
+    return {};
+  }
+  if (name == kTouchstoneOption) {
+    o.touchstone = true;
     return {};
   }
   if (name != "--out" && name != "--size" && name != "--chart" && name != "--q" && !frequencyOption) {

@@ -38,6 +38,7 @@ struct RenderOptions {
   std::string dataPath;
   bool frequencyOptionsGiven = false;
   bool modeGiven = false;
+  bool touchstone = false;  // read the files as Touchstone files
   std::vector<std::string> files;
 };
 
@@ -50,7 +51,7 @@ struct ParsedRenderOptions {
 std::string ParseSize(const std::string& text, int& width, int& height);
 
 // args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]
-//       [--curves NAMES] [--mode mag|re|q] [--xlog] [--data CSV] FILE...
+//       [--curves NAMES] [--mode mag|re|q] [--xlog] [--data CSV] [--touchstone] FILE...
 // where the curve names are the view's: mag,u,mug,s21 (gain), k,u,mu (stability) or
 // port1,port2,pi,image,sym (impedance).
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);

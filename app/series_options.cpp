@@ -1,6 +1,7 @@
 #include "series_options.h"
 
 #include "numerics/prefixed_number.h"
+#include "touchstone_option.h"
 
 namespace app {
 namespace {
@@ -105,6 +106,10 @@ bool ParseSeriesOptions(const std::vector<std::string>& args, SeriesOptions& opt
       options.files.push_back(arg);
     } else if (arg == "--") {
       optionsEnded = true;
+    } else if (arg == kTouchstoneOption) {
+      // Each file's option line names its frequency unit; --multiplier serves files without one.
+      options.settings.reading = numerics::FileReading::Touchstone;
+      options.settings.automaticMultiplier = true;
     } else if (IsValueOption(arg)) {
       if (i + 1 == args.size()) {
         error = arg + " needs a value; see netrix --help.";

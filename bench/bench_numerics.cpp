@@ -32,18 +32,45 @@ const std::string& SweepFile() {
   return path;
 }
 
-void BM_LoadTwoPortFile(benchmark::State& state) {
-  const std::string& path = SweepFile();
-  // The program has one store; each load here goes into its emptied first slot.
+// Loads path again and again into the emptied first slot of one store, as the program has one.
+void LoadRepeatedly(benchmark::State& state, const std::string& path, const numerics::ReadingChoice& choice) {
   static numerics::DataSetStore store;
   for (auto _ : state) {
     store.openCount = 0;
-    const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, path);
-    if (store.sets[0].pointCount != 253) state.SkipWithError(outcome.message.c_str());
+    const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(store, path, choice);
+    if (store.sets[0].pointCount != numerics::kMaxPoints) state.SkipWithError(outcome.message.c_str());
     benchmark::DoNotOptimize(store.sets[0].points[252]);
   }
 }
+
+void BM_LoadTwoPortFile(benchmark::State& state) { LoadRepeatedly(state, SweepFile(), {}); }
 BENCHMARK(BM_LoadTwoPortFile)->Unit(benchmark::kMicrosecond);
+
+// A network analyser sweep of 1601 points as a Touchstone file in DB, as such instruments write it.
+const std::string& AnalyserSweepFile() {
+  static const std::string path = [] {
+    const std::string p = (std::filesystem::temp_directory_path() / "netrix_bench_1601_db.s2p").string();
+    std::ofstream out(p);
+    out << "! Benchmark sweep, 1601 points\n# HZ S DB R 50\n";
+    for (int i = 0; i < 1601; ++i) {
+      char line[200];
+      const double f = 1e6 + i * 3e6;
+      std::snprintf(line, sizeof line, "%.0f %.6f %.4f %.6f %.4f %.6f %.4f %.6f %.4f\n", f, -0.5 - i * 1e-3,
+                    std::fmod(-30.0 - i * 0.7, 360.0) + 180, 14.0 - i * 0.005, std::fmod(150.0 - i * 0.5, 360.0) + 180,
+                    -40.0 + i * 1e-3, std::fmod(70.0 - i * 0.2, 360.0) + 180, -3.0 - i * 1e-3,
+                    std::fmod(-20.0 - i * 0.3, 360.0) + 180);
+      out << line;
+    }
+    return p;
+  }();
+  return path;
+}
+
+// The Touchstone reading thins the sweep to the store's 253 points.
+void BM_LoadTouchstoneDb1601(benchmark::State& state) {
+  LoadRepeatedly(state, AnalyserSweepFile(), {numerics::FileReading::Touchstone});
+}
+BENCHMARK(BM_LoadTouchstoneDb1601)->Unit(benchmark::kMicrosecond);
 
 void BM_ComputeTwoPortFigures(benchmark::State& state) {
   numerics::DataSetStore store;

@@ -1,4 +1,5 @@
-// Any bytes as the content of a bias-series file, evaluated with the ground inductance.
+// Any bytes as the content of a bias-series file, evaluated with the ground inductance, read
+// plain and read as a Touchstone file.
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -11,7 +12,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     s.withLgnd = true;
     return s;
   }();
+  static const series::SeriesSettings touchstone = [] {
+    series::SeriesSettings s = settings;
+    s.reading = numerics::FileReading::Touchstone;
+    s.automaticMultiplier = true;
+    return s;
+  }();
   const std::string_view content(reinterpret_cast<const char*>(data), size);
   series::EvaluateSeriesText(content, "fuzz.s2p", settings);
+  series::EvaluateSeriesText(content, "fuzz.s2p", touchstone);
   return 0;
 }

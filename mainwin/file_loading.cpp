@@ -10,6 +10,7 @@
 
 #include "frequency_page.h"
 #include "history_list.h"
+#include "input_page.h"
 #include "main_window.h"
 #include "controls/message_box.h"
 #include "numerics/data_set.h"
@@ -22,6 +23,7 @@ namespace {
 constexpr int kCommandLineFiles = 4;
 const char* const kLoadDirectoryKey = "Dialogs/LoadDirectory";
 const char* const kExecDirectoryKey = "Dialogs/ExecDirectory";
+const char* const kReadTouchstoneKey = "Options/ReadTouchstoneFiles";
 
 QFileDialog* MakeOpenDialog(QWidget* parent, const char* name, const QString& filter, const char* directoryKey) {
   auto* dialog = new QFileDialog(parent);
@@ -68,11 +70,16 @@ void TSDIAppForm::LoadFrequencyFile(const QString& fileName) {
   }
   const QString path = file.absoluteFilePath();
   // Read first: a file that cannot be read must leave the series, the list and the page alone.
-  const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(path.toStdString());
+  const numerics::ReadingChoice choice{
+      ReadsTouchstone() ? numerics::FileReading::Touchstone : numerics::FileReading::Plain, frequencyPage_->Z0()};
+  const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(path.toStdString(), choice);
   if (outcome.status != numerics::LoadStatus::Loaded) {
     controls::ShowMessage(this, QString::fromStdString(outcome.message));
     return;
   }
+  QStringList notes;
+  for (const std::string& note : outcome.notes) notes.append(QString::fromStdString(note));
+  if (!notes.isEmpty()) controls::ShowMessage(this, notes.join("\n\n"));
   // A file of the frequency page belongs to the bias series as well.
   series_.Append({path.toStdString()});
   historyList1_->Add(path);
@@ -88,6 +95,20 @@ void TSDIAppForm::LoadCommandLine(const QStringList& arguments) {
       controls::ShowMessage(this, tr("File ") + argument + tr(" is not present!"));
     }
   }
+}
+
+// The choice is kept in the per-user settings; the first start reads plain.
+void TSDIAppForm::ReadTouchstoneFiles1Click(bool checked) {
+  QSettings().setValue(kReadTouchstoneKey, checked);
+  inputPage_->EnableAutomaticMultiplier(checked);
+}
+
+bool TSDIAppForm::ReadsTouchstone() const { return readTouchstoneFiles1_->isChecked(); }
+
+void TSDIAppForm::RestoreReadingChoice(const QSettings& settings) {
+  readTouchstoneFiles1_->setChecked(settings.value(kReadTouchstoneKey, false).toBool());
+  inputPage_->EnableAutomaticMultiplier(ReadsTouchstone());
+  connect(readTouchstoneFiles1_, &QAction::toggled, this, &TSDIAppForm::ReadTouchstoneFiles1Click);
 }
 
 void TSDIAppForm::HistoryList1Click(const QString& fileName) {

@@ -147,11 +147,18 @@ QWidget* InputPage::MakeMultiplier() {
   radioButtonHz_ = MakeButton<QRadioButton>(group, "RadioButtonHz", tr("Hz"), false);
   radioButtonMHz_ = MakeButton<QRadioButton>(group, "RadioButtonMHz", tr("MHz"), true);
   radioButtonGHz_ = MakeButton<QRadioButton>(group, "RadioButtonGHz", tr("GHz"), false);
-  auto* automatic = MakeButton<QRadioButton>(group, "RadioButtonAutoPrefix", tr("automatical"), false);
-  automatic->setEnabled(false);
-  for (QRadioButton* button : {radioButtonHz_, radioButtonMHz_, radioButtonGHz_, automatic}) {
+  radioButtonAutoPrefix_ = MakeButton<QRadioButton>(group, "RadioButtonAutoPrefix", tr("automatical"), false);
+  radioButtonAutoPrefix_->setEnabled(false);
+  const std::pair<QRadioButton*, FrequencyUnit> units[] = {{radioButtonHz_, FrequencyUnit::Hz},
+                                                           {radioButtonMHz_, FrequencyUnit::MHz},
+                                                           {radioButtonGHz_, FrequencyUnit::GHz}};
+  for (const auto& [button, unit] : units) {
+    connect(button, &QRadioButton::toggled, this, [this, multiplier = UnitMultiplier(unit)](bool checked) {
+      if (checked) unitMultiplier_ = multiplier;
+    });
     layout->addWidget(button);
   }
+  layout->addWidget(radioButtonAutoPrefix_);
   return group;
 }
 
@@ -192,11 +199,7 @@ void InputPage::ShowSettings(const IniSettings& settings) {
   foEingabe_->setText(PrefixedEntry(settings.fo));
   areaEingabe_->setText(' ' + QString::fromStdString(numerics::FloatText(7, 1, settings.area)));
   lgndEingabe_->setText(PrefixedEntry(settings.lgnd));
-  switch (MultiplierUnit(settings.fMultiplier)) {
-    case FrequencyUnit::Hz: radioButtonHz_->setChecked(true); break;
-    case FrequencyUnit::MHz: radioButtonMHz_->setChecked(true); break;
-    case FrequencyUnit::GHz: radioButtonGHz_->setChecked(true); break;
-  }
+  CheckUnitButton(settings.fMultiplier);
   memoComment_->setPlainText(settings.comment);
   checkBoxLgnd_->setChecked(settings.withLgnd);
   checkBoxDensity_->setChecked(settings.jOutput);
@@ -208,9 +211,7 @@ IniSettings InputPage::CurrentSettings() const {
   s.fo = EntryValue(foEingabe_, shown_.fo);
   s.lgnd = EntryValue(lgndEingabe_, shown_.lgnd);
   s.area = EntryValue(areaEingabe_, shown_.area);
-  s.fMultiplier = radioButtonGHz_->isChecked()   ? UnitMultiplier(FrequencyUnit::GHz)
-                  : radioButtonMHz_->isChecked() ? UnitMultiplier(FrequencyUnit::MHz)
-                                                 : UnitMultiplier(FrequencyUnit::Hz);
+  s.fMultiplier = unitMultiplier_;
   s.comment = memoComment_->toPlainText();
   s.withLgnd = checkBoxLgnd_->isChecked();
   s.jOutput = checkBoxDensity_->isChecked();
@@ -235,6 +236,7 @@ series::SeriesSettings InputPage::EvaluationSettings() const {
   series::SeriesSettings s;
   s.fo = entries.fo;
   s.multiplier = entries.fMultiplier;
+  s.automaticMultiplier = radioButtonAutoPrefix_->isChecked();
   s.lgnd = entries.lgnd;
   s.withLgnd = entries.withLgnd;
   s.fmaxFromU = checkBoxU_->isChecked();
@@ -244,6 +246,20 @@ series::SeriesSettings InputPage::EvaluationSettings() const {
   s.area = entries.area;
   s.density = entries.jOutput;
   return s;
+}
+
+void InputPage::EnableAutomaticMultiplier(bool enabled) {
+  radioButtonAutoPrefix_->setEnabled(enabled);
+  if (enabled || !radioButtonAutoPrefix_->isChecked()) return;
+  CheckUnitButton(unitMultiplier_);
+}
+
+void InputPage::CheckUnitButton(double multiplier) {
+  switch (MultiplierUnit(multiplier)) {
+    case FrequencyUnit::Hz: radioButtonHz_->setChecked(true); break;
+    case FrequencyUnit::MHz: radioButtonMHz_->setChecked(true); break;
+    case FrequencyUnit::GHz: radioButtonGHz_->setChecked(true); break;
+  }
 }
 
 bool InputPage::AutoCalculate() const { return checkBoxAutoCalculate_->isChecked(); }

@@ -37,8 +37,12 @@ class InputPage : public QWidget {
   void ShowFileRow(int row, const std::string& path);
   void ClearFileRows(int first, int last);
 
-  // What the series evaluation and the output pages are asked for; the comment is left empty.
+  // What the series evaluation and the output pages are asked for; the comment is left empty
+  // and the files are read plain.
   series::SeriesSettings EvaluationSettings() const;
+  // The "automatical" multiplier takes each file's unit from its option line, so it is offered
+  // only while files are read as Touchstone files.
+  void EnableAutomaticMultiplier(bool enabled);
   bool AutoCalculate() const;
   bool ConnectPoints() const;
   bool CommentToOutputs() const;
@@ -59,6 +63,7 @@ class InputPage : public QWidget {
   QWidget* MakeXAxisChoice();
   QWidget* MakeOptions();
   QLineEdit* MakeEntry(const char* name, const QString& text);
+  void CheckUnitButton(double multiplier);
 
   IniSettings shown_;
   QLabel* labelNo_ = nullptr;
@@ -69,6 +74,8 @@ class InputPage : public QWidget {
   QRadioButton* radioButtonHz_ = nullptr;
   QRadioButton* radioButtonMHz_ = nullptr;
   QRadioButton* radioButtonGHz_ = nullptr;
+  QRadioButton* radioButtonAutoPrefix_ = nullptr;
+  double unitMultiplier_ = kDefaultMultiplier;  // of the unit button checked last
   QCheckBox* checkBoxLgnd_ = nullptr;
   QCheckBox* checkBoxDensity_ = nullptr;
   QCheckBox* checkBoxConnect_ = nullptr;

@@ -34,6 +34,10 @@ void TSDIAppForm::BuildMenus() {
                              tr("Keep this window above all other windows"));
   front->setCheckable(true);
   connect(front, &QAction::triggered, this, &TSDIAppForm::StayInFront1Click);
+  readTouchstoneFiles1_ =
+      AddAction(options, "ReadTouchstoneFiles1", tr("Read &Touchstone Files"),
+                tr("Apply the option line, comments, formats and parameter types of Touchstone files when loading"));
+  readTouchstoneFiles1_->setCheckable(true);
   menuBar()->addMenu(BuildHelpMenu());
 }
 

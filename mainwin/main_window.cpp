@@ -141,6 +141,7 @@ void TSDIAppForm::FormCreate(const QStringList& arguments) {
   inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
   QSettings settings;
   restoreGeometry(settings.value(kGeometryKey).toByteArray());
+  RestoreReadingChoice(settings);
   historyList1_->SetRegPath(QStringLiteral("netrix"));
   historyList1_->SetRegKey(QStringLiteral("MRUList1"));
   historyList1_->SetMaxItems(6);

@@ -19,6 +19,7 @@ class QLineEdit;
 class QMenu;
 class QPainter;
 class QPrinter;
+class QSettings;
 class QStackedWidget;
 class QTabBar;
 class QToolBar;
@@ -94,6 +95,9 @@ class TSDIAppForm : public QMainWindow {
   void TabSet1Click(int index);
   void Load1Click();
   void HistoryList1Click(const QString& fileName);
+  void ReadTouchstoneFiles1Click(bool checked);
+  bool ReadsTouchstone() const;
+  void RestoreReadingChoice(const QSettings& settings);
   bool RefuseWhenStoreFull();
   void AppendSeriesFiles(const QStringList& paths);
   void ShowAppendedRows(std::size_t firstIndex);
@@ -157,6 +161,7 @@ class TSDIAppForm : public QMainWindow {
   std::unique_ptr<QPrinter> printer_;
   QMenu* fileMenu_ = nullptr;
   QAction* drucken1_ = nullptr;
+  QAction* readTouchstoneFiles1_ = nullptr;
   THistoryList* historyList1_ = nullptr;
   QFileDialog* openDialog1_ = nullptr;
   QFileDialog* execDialog_ = nullptr;

@@ -121,6 +121,10 @@ series::SeriesArrays TSDIAppForm::ShownResults() const {
   return shown;
 }
 
-series::SeriesSettings TSDIAppForm::OutputSettings() const { return inputPage_->EvaluationSettings(); }
+series::SeriesSettings TSDIAppForm::OutputSettings() const {
+  series::SeriesSettings settings = inputPage_->EvaluationSettings();
+  if (ReadsTouchstone()) settings.reading = numerics::FileReading::Touchstone;
+  return settings;
+}
 
 }  // namespace mainwin

@@ -1,13 +1,14 @@
 #include "file_reader.h"
 
-#include <cmath>
 #include <filesystem>
 #include <memory>
 #include <optional>
 
 #include "prefixed_number.h"
 #include "real_functions.h"
+#include "sweep_angles.h"
 #include "text_file.h"
+#include "touchstone_data_set.h"
 
 namespace numerics {
 namespace {
@@ -15,53 +16,14 @@ namespace {
 constexpr double kPresetFrequency = 1e9;
 constexpr double kLowestFrequency = 1e-9;
 constexpr double kHighestFrequency = 1e15;
-constexpr int kMostLeadingBlankReads = 20;
-constexpr int kMostFieldReads = 199;
-struct ReadFailure {
-  std::string message;
-};
-
-double FoldOnce(double angle) {
-  if (angle > 180) return angle - 360;
-  if (angle < -180) return angle + 360;
-  return angle;
-}
-
-// Brings the folded angle a next to prev, so that curves do not jump by 360 degrees.
-double Unwrap(double a, double prev) {
-  const double d = std::fabs(a - prev);
-  const double dp = std::fabs(a - prev + 360);
-  const double dm = std::fabs(a - prev - 360);
-  if (dp < d) a += 360;
-  if (dm < d) a -= 360;
-  return a;
-}
-
-double ReadNumberOrFail(TextCursor& in, const std::string& fileName) {
-  const std::optional<double> value = in.ReadReal();
-  if (value) return *value;
-  throw ReadFailure{"File " + fileName + ", line " + std::to_string(in.LineNumber()) + ": \"" +
-                    in.TokenAtCursor() +
-                    "\" is not a number. Every data line needs a frequency and eight numbers "
-                    "(magnitude and angle of S11, S21, S12, S22)."};
-}
 
 // File order S11, S21, S12, S22: the column index runs outside the row index.
 void ReadPointParameters(TextCursor& in, const std::string& fileName, SParameters& point) {
   for (int column = 0; column < 2; ++column) {
     for (int row = 0; row < 2; ++row) {
-      const double magnitude = ReadNumberOrFail(in, fileName);
-      const double angle = ReadNumberOrFail(in, fileName);
+      const double magnitude = ReadNumberOrFail(in, fileName, kPlainLineContent);
+      const double angle = ReadNumberOrFail(in, fileName, kPlainLineContent);
       point.s[row][column] = MakePolar(magnitude, FoldOnce(angle));
-    }
-  }
-}
-
-void UnwrapAgainst(SParameters& point, const SParameters& previous) {
-  for (int row = 0; row < 2; ++row) {
-    for (int column = 0; column < 2; ++column) {
-      double& angle = point.s[row][column].second;
-      angle = Unwrap(angle, previous.s[row][column].second);
     }
   }
 }
@@ -88,68 +50,74 @@ double ParseDataSet(std::string_view content, const std::string& fileName, TwoPo
   return highest;
 }
 
-}  // namespace
+std::string PlainReadingNote(const std::string& fileName) {
+  return "File " + fileName +
+         " looks like a Touchstone file: lines after its first start with \"!\" or \"#\". The plain reading "
+         "takes every line after the first as frequency in Hz and eight numbers in magnitude and angle, and "
+         "applies no option line. " + kTouchstoneSwitchHint;
+}
 
-double ReadFrequencyField(TextCursor& in) {
-  for (;;) {
-    std::optional<char> c = in.ReadChar();
-    if (c == '!' || c == '#') {
-      in.SkipLine();
-      return kPresetFrequency;
-    }
-    int reads = 1;
-    while (c == ' ' && reads < kMostLeadingBlankReads) {
-      c = in.ReadChar();
-      ++reads;
-    }
-    if (!c) {
-      in.ConsumeLineBreak();
-      if (in.AtEndOfFile()) return kPresetFrequency;
-      continue;
-    }
-    // The character that ends the field is not part of it, also when it is the line's last.
-    const std::size_t start = in.Position() - 1;
-    std::size_t end = start;
-    while (*c != ' ' && !in.AtEndOfLine() && reads < kMostFieldReads) {
-      end = in.Position();
-      c = in.ReadChar();
-      ++reads;
-    }
-    return ClampValue(kHighestFrequency, kLowestFrequency, ParseValueText(in.Slice(start, end)).value);
+// The plain reading reads such files as it always has; the user is told once per load.
+double ReadPlain(std::string_view content, const std::string& fileName, TwoPortDataSet& set, ReadNotes& notes) {
+  try {
+    const double highest = ParseDataSet(content, fileName, set);
+    if (HasTouchstoneLines(content)) notes.push_back(PlainReadingNote(fileName));
+    return highest;
+  } catch (ReadFailure& failure) {
+    if (HasTouchstoneLines(content)) failure.message += std::string(" ") + kTouchstoneSwitchHint;
+    throw;
   }
 }
 
-LoadOutcome LoadTwoPortText(DataSetStore& store, std::string_view content, const std::string& fileName) {
+}  // namespace
+
+double ReadFrequencyField(TextCursor& in) {
+  const LineStart line = ReadLineStart(in);
+  if (line.kind == LineStartKind::Marker) in.SkipLine();
+  if (line.kind != LineStartKind::Field) return kPresetFrequency;
+  // The character that ends the field is not part of it, also when it is the line's last.
+  const std::string_view field = in.Slice(line.fieldStart, line.afterLastRead - 1);
+  return ClampValue(kHighestFrequency, kLowestFrequency, ParseValueText(field).value);
+}
+
+LoadOutcome LoadTwoPortText(DataSetStore& store, std::string_view content, const std::string& fileName,
+                            const ReadingChoice& choice) {
   if (store.openCount >= kMaxDataSets) {
-    return {LoadStatus::StoreFull, 0, "No more than " + std::to_string(kMaxDataSets) + " files can be open!"};
+    return {LoadStatus::StoreFull, 0, "No more than " + std::to_string(kMaxDataSets) + " files can be open!", {}};
   }
   auto set = std::make_unique<TwoPortDataSet>();
+  ReadNotes notes;
   double highest = 0;
   try {
-    highest = ParseDataSet(content, fileName, *set);
+    highest = choice.reading == FileReading::Touchstone
+                  ? FillDataSetFromTouchstone(content, fileName, choice.z0, *set, notes)
+                  : ReadPlain(content, fileName, *set, notes);
   } catch (const ReadFailure& failure) {
-    return {LoadStatus::Unreadable, 0, failure.message};
+    return {LoadStatus::Unreadable, 0, failure.message, {}};
   }
   store.sets[static_cast<std::size_t>(store.openCount)] = std::move(*set);
   ++store.openCount;
   store.frequencyMaximum = Max(store.frequencyMaximum, highest);
-  return {LoadStatus::Loaded, store.openCount, ""};
+  return {LoadStatus::Loaded, store.openCount, "", std::move(notes)};
 }
 
-LoadOutcome LoadTwoPortFile(DataSetStore& store, const std::string& fileName) {
+LoadOutcome LoadTwoPortFile(DataSetStore& store, const std::string& fileName, const ReadingChoice& choice) {
   std::error_code ec;
   if (!std::filesystem::exists(fileName, ec)) {
-    return {LoadStatus::Missing, 0, "File " + fileName + " is not present!"};
+    return {LoadStatus::Missing, 0, "File " + fileName + " is not present!", {}};
   }
-  if (store.openCount >= kMaxDataSets) return LoadTwoPortText(store, {}, fileName);
+  if (store.openCount >= kMaxDataSets) return LoadTwoPortText(store, {}, fileName, choice);
   std::string reason;
   const std::optional<std::string> content = ReadTextFile(fileName, reason);
   if (!content) {
-    return {LoadStatus::Unreadable, 0, "File " + fileName + " cannot be read (" + reason + "). Choose an S-parameter data file."};
+    return {LoadStatus::Unreadable, 0,
+            "File " + fileName + " cannot be read (" + reason + "). Choose an S-parameter data file.", {}};
   }
-  return LoadTwoPortText(store, *content, fileName);
+  return LoadTwoPortText(store, *content, fileName, choice);
 }
 
-LoadOutcome LoadTwoPortFile(const std::string& fileName) { return LoadTwoPortFile(DataSets(), fileName); }
+LoadOutcome LoadTwoPortFile(const std::string& fileName, const ReadingChoice& choice) {
+  return LoadTwoPortFile(DataSets(), fileName, choice);
+}
 
 }  // namespace numerics

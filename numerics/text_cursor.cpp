@@ -104,6 +104,18 @@ double ToDouble(const DecimalShape& d, std::string_view text) {
 
 }  // namespace
 
+std::optional<double> ParseRealToken(std::string_view token) {
+  std::size_t end = 0;
+  const DecimalShape d = ScanDecimal(token, end);
+  if (!d.valid || end != token.size()) return std::nullopt;
+  return ToDouble(d, token);
+}
+
+bool IsRealToken(std::string_view token) {
+  std::size_t end = 0;
+  return ScanDecimal(token, end).valid && end == token.size();
+}
+
 bool TextCursor::AtEndOfLine() const { return AtEndOfFile() || IsLineBreakAt(text_, pos_); }
 
 std::optional<char> TextCursor::ReadChar() {
@@ -122,23 +134,24 @@ void TextCursor::SkipLine() {
   ConsumeLineBreak();
 }
 
-std::string TextCursor::ReadLine() {
+std::string_view TextCursor::ReadLineView() {
   const std::size_t start = pos_;
   while (!AtEndOfLine()) ++pos_;
-  std::string line(text_.substr(start, pos_ - start));
+  const std::string_view line = text_.substr(start, pos_ - start);
   ConsumeLineBreak();
   return line;
 }
+
+std::string TextCursor::ReadLine() { return std::string(ReadLineView()); }
 
 std::optional<double> TextCursor::ReadReal() {
   while (pos_ < text_.size() && IsSeparator(text_[pos_])) ++pos_;
   if (pos_ >= text_.size()) return 0.0;
   // A number as the runtime reads it; words such as "inf" and "nan" are not numbers here.
   std::size_t end = pos_;
-  const DecimalShape d = ScanDecimal(text_, end);
-  if (!d.valid || (end < text_.size() && !IsSeparator(text_[end]))) return std::nullopt;
-  const double value = ToDouble(d, text_.substr(pos_, end - pos_));
-  pos_ = end;
+  while (end < text_.size() && !IsSeparator(text_[end])) ++end;
+  const std::optional<double> value = ParseRealToken(text_.substr(pos_, end - pos_));
+  if (value) pos_ = end;
   return value;
 }
 

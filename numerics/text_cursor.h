@@ -26,6 +26,8 @@ class TextCursor {
   void SkipLine();
   // The rest of the current line, without its line break; the line break is consumed.
   std::string ReadLine();
+  // The same as a view into the content.
+  std::string_view ReadLineView();
 
   // Skips blanks, tabs and line breaks, then reads one number. At the end of the file the
   // value is 0. A token that is not a number yields nullopt and leaves the cursor on it.
@@ -43,5 +45,10 @@ class TextCursor {
   std::string_view text_;
   std::size_t pos_ = 0;
 };
+
+// The value of a token that is one whole number as ReadReal reads it; nullopt otherwise.
+std::optional<double> ParseRealToken(std::string_view token);
+// Whether ParseRealToken would give a value, without working the value out.
+bool IsRealToken(std::string_view token);
 
 }  // namespace numerics

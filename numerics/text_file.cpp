@@ -1,5 +1,6 @@
 #include "text_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -31,6 +32,9 @@ std::optional<std::string> ReadTextFile(const std::string& path, std::string& re
     return std::nullopt;
   }
   std::string content;
+  // Reading into room made for the whole file spares the copies of a growing string.
+  const std::uintmax_t size = std::filesystem::file_size(path, ec);
+  if (!ec) content.reserve(std::min<std::uintmax_t>(size, kMostBytesRead));
   char buffer[65536];
   std::size_t got = 0;
   while (content.size() < kMostBytesRead && (got = std::fread(buffer, 1, sizeof buffer, file.get())) > 0) {

@@ -4,8 +4,10 @@
 #include <optional>
 
 #include "numerics/extended.h"
+#include "numerics/reader_core.h"
 #include "numerics/real_functions.h"
 #include "numerics/text_cursor.h"
+#include "numerics/touchstone_reader.h"
 #include "point_figures.h"
 #include "series_file.h"
 #include "series_line_reader.h"
@@ -17,23 +19,11 @@ namespace {
 // Below this a stability limit counts as not yet found.
 constexpr double kNoLimit = 1e-6;
 
-struct ReadFailure {
-  std::string message;
-};
-
-double ReadNumber(numerics::TextCursor& in, const std::string& path) {
-  const std::optional<double> value = in.ReadReal();
-  if (value) return *value;
-  throw ReadFailure{"File " + path + ", line " + std::to_string(in.LineNumber()) + ": \"" + in.TokenAtCursor() +
-                    "\" is not a number. Every data line needs a frequency and eight numbers "
-                    "(magnitude and angle of S11, S21, S12, S22)."};
-}
-
 // The pairs follow in the file order S11, S21, S12, S22 as magnitude and angle in degrees.
 void ReadPointParameters(numerics::TextCursor& in, const std::string& path, numerics::TwoPortState& st) {
   for (numerics::ComplexValue* z : {&st.s.m11, &st.s.m21, &st.s.m12, &st.s.m22}) {
-    const double magnitude = ReadNumber(in, path);
-    *z = numerics::MakePolar(magnitude, ReadNumber(in, path));
+    const double magnitude = numerics::ReadNumberOrFail(in, path, numerics::kPlainLineContent);
+    *z = numerics::MakePolar(magnitude, numerics::ReadNumberOrFail(in, path, numerics::kPlainLineContent));
   }
 }
 
@@ -74,22 +64,21 @@ void TakePoint(numerics::TwoPortState& st, double f, const SeriesSettings& setti
   TrackStabilityLimit(p.k, f, out.fk);
 }
 
+void TakeComment(std::string_view comment, const SeriesSettings& settings, FileFigures& out) {
+  if (settings.xAxis != XAxisChoice::CurrentIc) return;
+  if (const std::optional<double> current = BiasCurrentFromComment(comment)) out.current = *current;
+}
+
+// Every line to the end of the file: the lines of a noise block are read as points too.
 FileFigures ScanSeriesText(std::string_view content, const std::string& path, const SeriesSettings& settings) {
   numerics::TextCursor in(content);
   numerics::TwoPortState st;
   st.z0 = settings.z0;
   FileFigures out;
   std::optional<AnalysisPoint> analysis;
-  double previous = -HUGE_VAL;
   for (SeriesLine line = ReadSeriesLine(in); line.kind != SeriesLineKind::EndOfFile; line = ReadSeriesLine(in)) {
-    if (line.kind == SeriesLineKind::Comment && settings.xAxis == XAxisChoice::CurrentIc) {
-      if (const std::optional<double> current = BiasCurrentFromComment(line.comment)) out.current = *current;
-    }
+    if (line.kind == SeriesLineKind::Comment) TakeComment(line.comment, settings, out);
     if (line.kind != SeriesLineKind::Data) continue;
-    // A frequency that does not rise starts the noise-parameter block of a Touchstone file;
-    // its lines are no S-parameters, and taken as such they would overwrite the figures.
-    if (line.frequency <= previous) break;
-    previous = line.frequency;
     ReadPointParameters(in, path, st);
     in.SkipLine();
     TakePoint(st, line.frequency * settings.multiplier, settings, analysis, out);
@@ -98,21 +87,55 @@ FileFigures ScanSeriesText(std::string_view content, const std::string& path, co
   return out;
 }
 
+// Hz per unit of the file's frequency column: the option line's unit with the automatic
+// multiplier, where the file has one.
+double FrequencyMultiplier(const numerics::TouchstoneData& data, const std::string& path,
+                           const SeriesSettings& settings, numerics::ReadNotes& notes) {
+  if (!settings.automaticMultiplier) return settings.multiplier;
+  if (data.hasOptionLine) return data.frequencyUnit;
+  notes.push_back(NoOptionLineMessage(path, settings.multiplier));
+  return settings.multiplier;
+}
+
+FileFigures ScanTouchstoneText(std::string_view content, const std::string& path, const SeriesSettings& settings,
+                               numerics::ReadNotes& notes) {
+  const numerics::TouchstoneData data = numerics::ReadTouchstone(content, path);
+  numerics::TwoPortState st;
+  st.z0 = settings.z0;
+  FileFigures out;
+  std::optional<AnalysisPoint> analysis;
+  for (const std::string& comment : data.comments) TakeComment(comment, settings, out);
+  const double multiplier = FrequencyMultiplier(data, path, settings, notes);
+  for (std::size_t i = 0; i < data.frequency.size(); ++i) {
+    numerics::CopyPointToState(numerics::TouchstoneScattering(data, i, settings.z0, path), st);
+    TakePoint(st, data.frequency[i] * multiplier, settings, analysis, out);
+  }
+  if (analysis) TakeAnalysisValues(*analysis, st, settings.fmaxFromU, out);
+  return out;
+}
+
 FileEvaluation EvaluateSeriesFile(const std::string& path, const SeriesSettings& settings) {
   std::string error;
   const std::optional<std::string> content = ReadSeriesFile(path, error);
-  if (!content) return {{}, error};
+  if (!content) return {{}, error, {}};
   return EvaluateSeriesText(*content, path, settings);
 }
 
 }  // namespace
 
 FileEvaluation EvaluateSeriesText(std::string_view content, const std::string& path, const SeriesSettings& settings) {
+  FileEvaluation file;
   try {
-    return {ScanSeriesText(content, path, settings), {}};
-  } catch (const ReadFailure& failure) {
-    return {{}, failure.message};
+    file.figures = settings.reading == numerics::FileReading::Touchstone
+                       ? ScanTouchstoneText(content, path, settings, file.notes)
+                       : ScanSeriesText(content, path, settings);
+  } catch (const numerics::ReadFailure& failure) {
+    file.error = failure.message;
+    if (settings.reading == numerics::FileReading::Plain && numerics::HasTouchstoneLines(content)) {
+      file.error += std::string(" ") + numerics::kTouchstoneSwitchHint;
+    }
   }
+  return file;
 }
 
 SeriesEvaluation EvaluateSeries(const SeriesList& list, const SeriesSettings& settings, SeriesArrays& arrays) {
@@ -129,6 +152,7 @@ SeriesEvaluation EvaluateSeries(const SeriesList& list, const SeriesSettings& se
       result.messages.push_back(std::move(file.error));
       return result;
     }
+    for (std::string& note : file.notes) result.messages.push_back(std::move(note));
     if (file.figures.current == 0) result.messages.push_back(NoCurrentMessage(path));
     fresh.push_back(file.figures);
   }

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "numerics/reader_core.h"
 #include "series_arrays.h"
 #include "series_list.h"
 #include "series_settings.h"
@@ -24,7 +25,8 @@ SeriesEvaluation EvaluateSeries(const SeriesList& list, const SeriesSettings& se
 
 struct FileEvaluation {
   FileFigures figures;
-  std::string error;  // empty when the content was read to its end
+  std::string error;         // empty when the content was read to its end
+  numerics::ReadNotes notes;  // what the read left out or assumed, for the user
 };
 
 // The figures of one series file whose content is in memory; path names it in messages.

@@ -3,13 +3,12 @@
 #include <cstddef>
 
 #include "numerics/prefixed_number.h"
+#include "numerics/reader_core.h"
 #include "numerics/text_functions.h"
 
 namespace series {
 namespace {
 
-constexpr int kMostLeadingBlankReads = 20;
-constexpr int kMostTokenReads = 199;
 constexpr std::size_t kMostCurrentChars = 100;
 // The value stands behind the two letters of the key and its equals sign.
 constexpr std::size_t kValueOffset = 3;
@@ -59,28 +58,12 @@ std::optional<double> LeadingDecimalNumber(std::string_view token) {
 }
 
 SeriesLine ReadSeriesLine(numerics::TextCursor& in) {
-  for (;;) {
-    std::optional<char> c = in.ReadChar();
-    if (c == '!' || c == '#') return {SeriesLineKind::Comment, 0, in.ReadLine()};
-    int reads = 1;
-    while (c == ' ' && reads < kMostLeadingBlankReads) {
-      c = in.ReadChar();
-      ++reads;
-    }
-    if (!c) {
-      in.ConsumeLineBreak();
-      if (in.AtEndOfFile()) return {};
-      continue;
-    }
-    const std::size_t start = in.Position() - 1;
-    while (c && *c != ' ' && reads < kMostTokenReads) {
-      c = in.ReadChar();
-      ++reads;
-    }
-    // The blank that ends the token is read but not part of it.
-    const std::size_t end = c == ' ' ? in.Position() - 1 : in.Position();
-    return DataOrNot(in.Slice(start, end), in);
-  }
+  const numerics::LineStart line = numerics::ReadLineStart(in);
+  if (line.kind == numerics::LineStartKind::Marker) return {SeriesLineKind::Comment, 0, in.ReadLine()};
+  if (line.kind == numerics::LineStartKind::EndOfFile) return {};
+  // The blank that ends the token is read but not part of it.
+  const std::size_t end = line.endedAtBlank ? line.afterLastRead - 1 : line.afterLastRead;
+  return DataOrNot(in.Slice(line.fieldStart, end), in);
 }
 
 std::optional<double> BiasCurrentFromComment(std::string_view comment) {

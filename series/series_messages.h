@@ -15,6 +15,9 @@ inline std::string NoCurrentMessage(const std::string& path) {
   return "Possibly the file " + path + " might be errorness (e.g. no Ic specified).";
 }
 
+// A Touchstone file read with the automatic multiplier whose option line is missing.
+std::string NoOptionLineMessage(const std::string& path, double multiplier);
+
 // What selecting a file of the list tells about it: "fT=" with unit prefix and one decimal,
 // MAG/MSG with two decimals and k with three, both without leading blanks.
 std::string FileValuesText(const FileFigures& file);

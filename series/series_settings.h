@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "numerics/file_reader.h"
+
 // What the evaluation of a bias series is asked for: the entries of the series page.
 namespace series {
 
@@ -23,6 +25,8 @@ inline constexpr const char* kDefaultAreaText = "  1000";
 struct SeriesSettings {
   double fo = 0;                        // analysis frequency in Hz
   double multiplier = kMultiplierMHz;   // Hz per unit of the files' frequency column
+  numerics::FileReading reading = numerics::FileReading::Plain;
+  bool automaticMultiplier = false;     // Touchstone reading: the unit of each file's option line
   double lgnd = 0;                      // ground inductance in H
   bool withLgnd = false;                // insert lgnd into the common lead
   bool fmaxFromU = false;               // fmax from Mason's U instead of the best gain

@@ -46,5 +46,20 @@ TEST_F(FiguresCommandTest, PrintsOneLinePerPointOfAMatchedAttenuator) {
   EXPECT_EQ(Fields(second)[0], 2e9);
 }
 
+// Without --touchstone the file reads as it always has, and standard error says why it should not.
+TEST_F(FiguresCommandTest, TouchstoneOptionAppliesTheOptionLine) {
+  const std::string path = Write("att.s2p", "! attenuator\n# MHz S MA R 50\n100 0 0 0.316227766 0 0.316227766 0 0 0\n");
+  ASSERT_EQ(Run({"--figures", path, "--touchstone"}), 0) << err_.str();
+  std::stringstream lines(out_.str());
+  std::string header, first;
+  std::getline(lines, header);
+  std::getline(lines, first);
+  EXPECT_EQ(Fields(first)[0], 1e8);
+  EXPECT_NEAR(Fields(first)[10], -10, 1e-8);
+  EXPECT_EQ(err_.str(), "");
+  ASSERT_EQ(Run({"--figures", path}), 0);
+  EXPECT_EQ(err_.str().rfind("File " + path + " looks like a Touchstone file", 0), 0U) << err_.str();
+}
+
 }  // namespace
 }  // namespace app

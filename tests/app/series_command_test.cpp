@@ -59,6 +59,9 @@ TEST_F(SeriesCommandTest, AppliesTheOptions) {
   EXPECT_EQ(rowWith({"--fo", "900M"}), "     2.00m     0.000     0.000   0.000  0.0000     1.00G\n");
   EXPECT_EQ(rowWith({"--fmax-from-u", "--lgnd", "1n"}), "     2.00m     2.67G     3.50G   6.021  1.2500     1.00G\n");
   EXPECT_NE(rowWith({"--with-lgnd", "--lgnd", "1n"}), kRow);  // the inductance changes the row
+  // With --touchstone a file without an option line takes --multiplier, and standard error says so.
+  EXPECT_EQ(rowWith({"--touchstone", "--multiplier", "MHz"}), kRow);
+  EXPECT_NE(err_.str().find("has no \"#\" option line"), std::string::npos);
 }
 
 TEST_F(SeriesCommandTest, TakesTheFirstFortyFilesAndRefusesTheNext) {
@@ -101,7 +104,8 @@ TEST_F(SeriesCommandTest, AFailedRunLeavesTheOutputFileAsItWas) {
 TEST(Help, NamesEveryModeAndOption) {
   std::ostringstream out, err;
   ASSERT_EQ(RunHeadlessMode({"--help"}, out, err), 0);
-  for (const char* text : {"--figures FILE", "--render VIEW --out PATH", "--render ft-fmax|k-mag|stability-limit",
+  for (const char* text : {"--figures [--touchstone] FILE", "--touchstone", "--render VIEW --out PATH",
+                           "--render ft-fmax|k-mag|stability-limit",
                            "--series [options] FILE...", "--multiplier Hz|MHz|GHz", "--x-axis ic|id|fileno"}) {
     EXPECT_NE(out.str().find(text), std::string::npos) << text;
   }

@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QCheckBox>
+#include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -46,6 +47,7 @@ class MainWindowTest : public QObject, mainwin_test::WindowSession {
   void TabsCarryThePageCaptions();
   void HelpShowsTheBoxOfThePage();
   void StayInFrontToggles();
+  void ReadTouchstoneFilesIsKeptAndOffersTheAutomaticMultiplier();
   void EveryExitClosesTheWindow_data();
   void EveryExitClosesTheWindow();
 
@@ -208,6 +210,38 @@ void MainWindowTest::StayInFrontToggles() {
   item->trigger();
   QVERIFY(!item->isChecked());
   QVERIFY(!(Window().windowFlags() & Qt::WindowStaysOnTopHint));
+}
+
+void MainWindowTest::ReadTouchstoneFilesIsKeptAndOffersTheAutomaticMultiplier() {
+  mainwin_test::MessageLog log;
+  Start();
+  auto* item = Find<QAction>("ReadTouchstoneFiles1");
+  QVERIFY(item->isCheckable() && !item->isChecked());  // off at the first start
+  QVERIFY(!Find<QRadioButton>("RadioButtonAutoPrefix")->isEnabled());
+  item->trigger();
+  Find<QRadioButton>("RadioButtonAutoPrefix")->setChecked(true);
+  item->trigger();  // off again: the unit chosen before comes back
+  QVERIFY(!Find<QRadioButton>("RadioButtonAutoPrefix")->isEnabled());
+  QVERIFY(Find<QRadioButton>("RadioButtonMHz")->isChecked());
+  item->trigger();
+
+  const QString file = dir_.filePath("device.s2p");
+  QFile out(file);
+  QVERIFY(out.open(QIODevice::WriteOnly));
+  out.write("! Ic=2m\n# GHz S MA R 50\n3 0 0 2 0 0.25 0 0 0\n! noise\n1 1 .5 10 .2\n");
+  out.close();
+  Start({file});
+  QVERIFY(Find<QAction>("ReadTouchstoneFiles1")->isChecked());
+  QCOMPARE(numerics::DataSets().sets[0].frequency[0], 3e9);
+  QCOMPARE(log.Messages(), QStringList({"File " + file + " also holds noise parameters at 1 frequency; they are not "
+                                                         "S-parameters and are left out."}));
+  // The loaded file is in the series as well: 3 MHz lies below fo, 3 GHz of the option line above it.
+  ShowTab(1);
+  QTest::mouseClick(Find<QPushButton>("BitBtnCalc"), Qt::LeftButton);
+  QVERIFY(Window().Results().at(0).fT > 0);
+  Find<QRadioButton>("RadioButtonAutoPrefix")->setChecked(true);
+  QTest::mouseClick(Find<QPushButton>("BitBtnCalc"), Qt::LeftButton);
+  QCOMPARE(Window().Results().at(0).fT, 0.0);
 }
 
 void MainWindowTest::EveryExitClosesTheWindow_data() {

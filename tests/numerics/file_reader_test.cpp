@@ -163,6 +163,51 @@ TEST_F(FileReaderTest, HugeLinesAndManyBlankLinesEndQuickly) {
   EXPECT_EQ(Load("t\n" + std::string(1000000, '\n') + Line("1k")).pointCount, 1);  // blank lines are skipped
 }
 
+TEST_F(FileReaderTest, PlainReadingSaysOnceThatAFileLooksLikeTouchstone) {
+  const std::string path = Write("ts.s2p", "t\n" + Line("1000") + "! c\n" + Line("2000"));
+  const LoadOutcome outcome = LoadTwoPortFile(store_, path);
+  EXPECT_EQ(store_.sets[0].frequency[1], 1e9);  // read as it always was
+  ASSERT_EQ(outcome.notes.size(), 1U);
+  EXPECT_EQ(outcome.notes[0].rfind("File " + path + " looks like a Touchstone file", 0), 0U);
+  EXPECT_NE(outcome.notes[0].find(kTouchstoneSwitchHint), std::string::npos);
+  EXPECT_TRUE(LoadTwoPortFile(store_, Write("plain.s2p", "! title\n" + Line("1k"))).notes.empty());
+  const LoadOutcome failed = LoadTwoPortFile(store_, Write("db.s2p", "t\n# GHz DB\n1 -3 x\n"));
+  EXPECT_NE(failed.message.find(kTouchstoneSwitchHint), std::string::npos) << failed.message;
+}
+
+TEST_F(FileReaderTest, TouchstoneReadingThinsLongSweepsAndTellsWhatItLeftOut) {
+  std::string content = "! long sweep\n# MHz S MA R 50\n";
+  for (int i = 1; i <= 600; ++i) content += Line(std::to_string(i), 150 + 10 * i);
+  const std::string path = Write("long.s2p", content + "! noise\n1 1 .5 10 .2\n2 1 .5 10 .2\n");
+  const LoadOutcome outcome = LoadTwoPortFile(store_, path, {FileReading::Touchstone, 50});
+  ASSERT_EQ(outcome.status, LoadStatus::Loaded) << outcome.message;
+  const TwoPortDataSet& set = store_.sets[0];
+  EXPECT_EQ(set.title, "! long sweep");
+  ASSERT_EQ(set.pointCount, 253);
+  EXPECT_EQ(set.frequency[0], 1e6);
+  EXPECT_EQ(set.frequency[1], 3e6);  // 599 / 252 = 2.38 points on: the third; then 4.75 on: the sixth
+  EXPECT_EQ(set.frequency[252], 600e6);
+  EXPECT_EQ(store_.frequencyMaximum, 600e6);
+  EXPECT_DOUBLE_EQ(set.points[0].s[1][0].second, 160);
+  EXPECT_DOUBLE_EQ(set.points[1].s[1][0].second, 180);
+  EXPECT_DOUBLE_EQ(set.points[2].s[1][0].second, 210);  // folded to -150, unwrapped along the kept points
+  EXPECT_EQ(outcome.notes, (ReadNotes{"File " + path + " holds 600 frequency points; 253 of them, spread evenly "
+                                      "from the first to the last, are kept.",
+                                      "File " + path + " also holds noise parameters at 2 frequencies; they are "
+                                      "not S-parameters and are left out."}));
+
+  const std::string bare = Write("bare.s2p", "! no option line\n" + Line("2"));
+  const LoadOutcome defaults = LoadTwoPortFile(store_, bare, {FileReading::Touchstone, 50});
+  EXPECT_EQ(store_.sets[1].frequency[0], 2e9);
+  ASSERT_EQ(defaults.notes.size(), 1U);
+  EXPECT_NE(defaults.notes[0].find("has no \"#\" option line, so the Touchstone defaults apply"), std::string::npos);
+
+  const std::string bad = Write("bad.s2p", "# GHz\n" + Line("5") + "6 x\n");
+  EXPECT_EQ(LoadTwoPortFile(store_, bad, {FileReading::Touchstone, 50}).status, LoadStatus::Unreadable);
+  EXPECT_EQ(store_.openCount, 2);
+  EXPECT_EQ(store_.frequencyMaximum, 2e9);
+}
+
 TEST(ReadFrequencyField, SkipsAtMostNineteenBlanks) {
   for (const auto& [blanks, frequency] : {std::pair{19, 25.0}, std::pair{20, 1e-9}}) {  // 1e-9: the field is empty
     const std::string text = std::string(blanks, ' ') + "25 rest";

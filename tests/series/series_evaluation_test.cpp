@@ -141,12 +141,30 @@ TEST(SeriesEvaluation, ReadsFrequenciesWithTheMultiplierAndSkipsOtherLines) {
   EXPECT_NEAR(f.fT / (fixtures::CurrentGain(kPoints[2].Matrix(), kZ0) * 3e9L), 1, 1e-12);
 }
 
-TEST(SeriesEvaluation, StopsAtTheNoiseParameterBlock) {
-  // Touchstone noise lines (f, NFmin, |Gopt|, angle Gopt, Rn/50) start again at a low frequency.
-  const std::string content = "! Ic=3m\n# MHz S MA R 50\n" + DataLine("1000", kPoints[0]) +
-                              DataLine("2000", kPoints[1]) + "! noise\n500 1.2 0.4 30 0.3\n900 1.3 0.38 35 0.28\n";
+// A frequency that does not rise does not end the plain reading: the points after it count too.
+TEST(SeriesEvaluation, PlainReadingReadsToTheEndOfTheFile) {
+  const std::string content = "! Ic=3m\n" + DataLine("1000", kPoints[0]) + DataLine("2000", kPoints[1]) +
+                              DataLine("2000", kPoints[2]) + DataLine("3000", kPoints[0]);
   const FileFigures f = Evaluate(content, Settings(2.5e9, 1e6));
-  EXPECT_NEAR(f.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e9L), 1, 1e-12);
+  EXPECT_NEAR(f.fT / (fixtures::CurrentGain(kPoints[2].Matrix(), kZ0) * 2e9L), 1, 1e-12);
+}
+
+// The Touchstone reading leaves the noise block out and, with the automatic multiplier, takes
+// each file's unit from its option line, or the multiplier where there is none.
+TEST(SeriesEvaluation, TouchstoneReadingTakesTheUnitOfTheOptionLine) {
+  const std::string data = DataLine("1", kPoints[0]) + DataLine("2", kPoints[1]) + "! Noise\n0.5 1 .4 30 .2\n";
+  SeriesSettings settings = Settings(2.5e9, 1e9);
+  settings.reading = numerics::FileReading::Touchstone;
+  const FileFigures explicitUnit = Evaluate("! Ic=3m\n# MHz\n" + data, settings);
+  EXPECT_NEAR(explicitUnit.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e9L), 1, 1e-12);
+  settings.automaticMultiplier = true;
+  const FileFigures fromOptionLine = Evaluate("! Ic=3m\n# MHz\n" + data, settings);
+  EXPECT_EQ(fromOptionLine.current, 3e-3);
+  EXPECT_NEAR(fromOptionLine.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e6L), 1, 1e-12);
+  const FileEvaluation bare = EvaluateSeriesText("! Ic=3m\n" + data, "bare.s2p", settings);
+  EXPECT_NEAR(bare.figures.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e9L), 1, 1e-12);
+  EXPECT_EQ(bare.notes, std::vector<std::string>{"File bare.s2p has no \"#\" option line to take its frequency unit "
+                                                 "from; its frequencies are taken in GHz, the multiplier selected."});
 }
 
 // Id is read only for the Ic choice, "#" lines count as comments, and a later line overwrites.
