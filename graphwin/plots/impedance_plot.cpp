@@ -23,15 +23,16 @@ struct ImpedanceFigure {
   ComplexValue (*impedance)(const TwoPortState& st);
 };
 
+// Port1 first, so that the curve a window opens with takes the first colour.
 constexpr std::array<ImpedanceFigure, 5> kFigures = {{
-    {&ImpedanceChoice::sym, "symmetrical", "sym",
-     [](const TwoPortState& st) {
-       return numerics::Sub(numerics::Add(st.z.m11, st.z.m22), numerics::Add(st.z.m12, st.z.m21));
-     }},
     {&ImpedanceChoice::port1, "Port1", "port1", [](const TwoPortState& st) { return numerics::Inverse(st.y.m11); }},
     {&ImpedanceChoice::port2, "Port2", "port2", [](const TwoPortState& st) { return numerics::Inverse(st.y.m22); }},
     {&ImpedanceChoice::cross, "Cross", "pi", [](const TwoPortState& st) { return numerics::Inverse(st.pi.series); }},
     {&ImpedanceChoice::image, "Zchar", "image", [](const TwoPortState& st) { return st.image.impedance; }},
+    {&ImpedanceChoice::sym, "symmetrical", "sym",
+     [](const TwoPortState& st) {
+       return numerics::Sub(numerics::Add(st.z.m11, st.z.m22), numerics::Add(st.z.m12, st.z.m21));
+     }},
 }};
 
 const char* const kModeColumns[] = {"_mag_ohm", "_re_ohm", "_q"};

@@ -50,13 +50,14 @@ TEST_F(ImpedanceWindowTest, ModesBoxesAndTheFrequencyLimits) {
   EXPECT_EQ(window_->Plot().curves.size(), 2u);
   {
     AxisAnswers answers("200G");
-    QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e9, 500));
+    QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e9, 0));
     EXPECT_EQ(answers.labels_, QStringList{"fmax="});
   }
   EXPECT_EQ(State().xMax, 1e11);
-  AxisAnswers answers("-2M");
+  AxisAnswers answers("-2M");  // the axes meet in the corner: both minimum ends, each limited
   QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(State().xMin, 0));
-  EXPECT_EQ(answers.labels_, QStringList{"ymin="});
+  EXPECT_EQ(answers.labels_, (QStringList{"fmin=", "ymin="}));
+  EXPECT_EQ(State().xMin, 0);
   EXPECT_EQ(State().yMin, -1e6);
 }
 
