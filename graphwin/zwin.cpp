@@ -4,6 +4,7 @@
 #include <QActionGroup>
 #include <QCheckBox>
 #include <QPainter>
+#include <QPixmap>
 
 #include "controls/dialog_hooks.h"
 #include "diagram/axis.h"
@@ -104,11 +105,11 @@ std::string TFormZ::AxisLabel(AxisEnd end) const {
   return end == AxisEnd::XMax ? "fmax=" : "fmin=";
 }
 
-// The whole window as it stands, tool bar and read-out included, as large as the page allows.
+// The whole window as it stands, tool bar and read-out included, stretched as large as the page
+// allows: a picture of the screen, as a printed form always was.
 void TFormZ::PrintPage(QPainter& painter, QSize page) {
-  const QSize shape = size().scaled(page, Qt::KeepAspectRatio);
-  painter.scale(static_cast<double>(shape.width()) / width(), static_cast<double>(shape.height()) / height());
-  render(&painter);
+  const QPixmap window = grab();
+  painter.drawPixmap(QRect(QPoint(0, 0), window.size().scaled(page, Qt::KeepAspectRatio)), window);
 }
 
 }  // namespace graphwin

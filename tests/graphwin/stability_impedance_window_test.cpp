@@ -4,7 +4,10 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QFile>
 #include <QLabel>
+#include <QPrinter>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "graphwin/frequency_cursor.h"
@@ -59,6 +62,20 @@ TEST_F(ImpedanceWindowTest, ModesBoxesAndTheFrequencyLimits) {
   EXPECT_EQ(answers.labels_, (QStringList{"fmin=", "ymin="}));
   EXPECT_EQ(State().xMin, 0);
   EXPECT_EQ(State().yMin, -1e6);
+}
+
+// The page holds the whole window, tool bar and read-out included, in its proportions.
+TEST_F(ImpedanceWindowTest, PrintsTheWindowAsItStands) {
+  QTemporaryDir dir;
+  controls::DialogInterception printer(nullptr, [&](controls::PrinterDialog, QPrinter& p) {
+    p.setOutputFormat(QPrinter::PdfFormat);
+    p.setOutputFileName(dir.filePath("page.pdf"));
+    return true;
+  });
+  Find<QAction>("Print1")->trigger();
+  QFile pdf(dir.filePath("page.pdf"));
+  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(pdf.read(5) == "%PDF-");
 }
 
 // A mouse move in one window marks the nearest frequency of the first file in every open window,
