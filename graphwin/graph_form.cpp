@@ -254,6 +254,8 @@ QWidget* TGraphForm::BuildStatusBar() {
   cursorPanel_->setObjectName("CursorPanel");
   cursorPanel_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
   cursorPanel_->setFont(arial);
+  // As wide as its widest text, so that moving the cursor never lays the status bar out again.
+  cursorPanel_->setFixedWidth(cursorPanel_->fontMetrics().horizontalAdvance(tr("Cursor : f=999.99MHz")) + 8);
   auto* layout = new QHBoxLayout(bar);
   layout->setContentsMargins(1, 1, 1, 1);
   layout->setSpacing(1);
