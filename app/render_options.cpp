@@ -70,7 +70,9 @@ std::string ParseNames(const std::string& text, const CurveName<Choice> (&names)
     const std::size_t comma = text.find(',', start);
     const std::string word = text.substr(start, comma == std::string::npos ? std::string::npos : comma - start);
     const auto found = std::find_if(std::begin(names), std::end(names), [&](const auto& n) { return word == n.name; });
-    if (found == std::end(names)) return "--curves takes " + NameList(names) + " joined by commas, not \"" + text + "\"";
+    if (found == std::end(names)) {
+      return "--curves takes " + NameList(names) + " joined by commas, not \"" + text + "\"";
+    }
     chosen.*found->box = true;
     start = comma == std::string::npos ? comma : comma + 1;
   } while (start != std::string::npos);

@@ -91,7 +91,9 @@ std::optional<double> TGraphForm::NearestFrequency(QPoint at) const {
   const auto distance = [&](double frequency) {
     long long least = std::numeric_limits<long long>::max();
     if (byColumn) return SquaredDistance(QPoint(diagram::XToPixel(drawn, frequency), at.y()), at);
-    for (const QPointF& point : CursorPoints(frequency)) least = std::min(least, SquaredDistance(PixelOf(drawn, point), at));
+    for (const QPointF& point : CursorPoints(frequency)) {
+      least = std::min(least, SquaredDistance(PixelOf(drawn, point), at));
+    }
     return least;
   };
   std::optional<double> nearest;

@@ -159,8 +159,9 @@ TEST_F(ImpedancePlotTest, SeriesElementAtEitherPortAndAcross) {
            "0.6324555320 -18.4349488229 0.4472135955 26.5650511771\n");
   const std::vector<double> resistor = Values(inputs, plots::ImpedanceMode::Magnitude);
   for (std::size_t i = 0; i < 3; ++i) EXPECT_NEAR(resistor[i], 25, 1e-9) << i;
-  for (const auto& [mode, expected] : {std::pair{plots::ImpedanceMode::Magnitude, std::sqrt(5000.0)},
-                                       std::pair{plots::ImpedanceMode::Real, 50.0}, std::pair{plots::ImpedanceMode::Q, 1.0}}) {
+  using plots::ImpedanceMode;
+  for (const auto& [mode, expected] : {std::pair{ImpedanceMode::Magnitude, std::sqrt(5000.0)},
+                                       std::pair{ImpedanceMode::Real, 50.0}, std::pair{ImpedanceMode::Q, 1.0}}) {
     const std::vector<double> z = Values(inputs, mode, 1);
     for (std::size_t i = 0; i < 3; ++i) EXPECT_NEAR(z[i], expected, 1e-7) << i;
   }
@@ -176,7 +177,8 @@ TEST_F(ImpedancePlotTest, PiAttenuator) {
   const std::vector<double> z = Values(inputs, plots::ImpedanceMode::Real);
   ASSERT_EQ(z.size(), expected.size());
   for (std::size_t i = 0; i < z.size(); ++i) EXPECT_NEAR(z[i], expected[i], 1e-9) << i;
-  const plots::FrequencyPlot plot = plots::BuildImpedancePlot(inputs, {false, false, false, true, false}, plots::ImpedanceMode::Q);
+  const plots::FrequencyPlot plot =
+      plots::BuildImpedancePlot(inputs, {false, false, false, true, false}, plots::ImpedanceMode::Q);
   EXPECT_EQ(plot.curves[0].column, "pi_q (net.spm)");
   EXPECT_EQ(plot.title, "Quality Factor Q(f)");
   EXPECT_TRUE(plots::AfterImpedanceClick({false, false, false, false, false}).port1);
