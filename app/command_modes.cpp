@@ -3,7 +3,6 @@
 #include <ostream>
 
 #include "figures_command.h"
-#include "render_command.h"
 #include "series_command.h"
 
 namespace app {
@@ -22,7 +21,6 @@ int RunHelp(const std::vector<std::string>&, std::ostream& out, std::ostream&) {
 constexpr HeadlessMode kModes[] = {
     {"--figures", RunFiguresCommand},
     {"--series", RunSeriesCommand},
-    {"--render", RunRenderCommand},
     {"--help", RunHelp},
     {"-h", RunHelp},
 };
@@ -33,10 +31,14 @@ std::string UsageText() {
   return "Usage:\n"
          "  netrix [FILE...]\n"
          "      Open the main window with up to four S-parameter files loaded.\n"
-         "  netrix --figures [--touchstone] FILE\n"
-         "      Print the gain and stability figures of every point of FILE as CSV:\n"
+         "  netrix --figures [--touchstone] FILE|FOLDER...\n"
+         "      Print the gain and stability figures of every point of each file as CSV:\n"
          "      f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs\n"
-         "      --touchstone reads FILE as a Touchstone file (option line, comments, formats,\n"
+         "      A folder gives its .s2p and .spm files in name order. With more than one file, or\n"
+         "      a folder, each row starts with the file's path (column \"file\"). Files are\n"
+         "      evaluated in parallel and written in the given order; a file that cannot be read\n"
+         "      is reported and the others are still written (exit status 1).\n"
+         "      --touchstone reads the files as Touchstone files (option line, comments, formats,\n"
          "      parameter types, version 2.0 keywords, noise block) instead of the plain format.\n" +
          SeriesUsageText() +
          "  netrix --render VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]\n"
@@ -49,6 +51,13 @@ std::string UsageText() {
          "      The gain window's picture: MAG/MSG, U, MUG and |S21|^2 in dB against frequency\n"
          "      (default mag). --xlog draws the frequency axis logarithmic; --data writes the\n"
          "      curves as CSV, one row per frequency, the same numbers as --figures.\n"
+         "  netrix --render stability --out PATH [--size WxH] [--curves k,u,mu] [--xlog] [--data CSV] FILE...\n"
+         "      The stability window's picture: k, mu and the unilateral figure u against\n"
+         "      frequency (default k); --xlog and --data as for gain.\n"
+         "  netrix --render impedance --out PATH [--size WxH] [--mode mag|re|q]\n"
+         "                 [--curves port1,port2,pi,image,sym] [--xlog] [--data CSV] FILE...\n"
+         "      The impedance window's picture: |Z|, Re(Z) or Q of 1/Y11, 1/Y22, the pi model's\n"
+         "      series element, the image impedance and the push-pull sum (default port1).\n"
          "  netrix --render ft-fmax|k-mag|stability-limit --out PATH [--size WxH] [--connect]\n"
          "                 [series options] FILE...\n"
          "      Evaluate up to 40 files as a bias series (the options of --series) and draw the\n"
@@ -59,11 +68,16 @@ std::string UsageText() {
 }
 
 int RunHeadlessMode(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-  if (args.empty()) return -1;
+  if (args.empty() || args.front() == kRenderOption) return kNotHeadless;
   for (const HeadlessMode& mode : kModes) {
     if (args.front() == mode.option) return mode.run({args.begin() + 1, args.end()}, out, err);
   }
-  return -1;
+  // Anything else is the window; its arguments are file names, so only an unknown option is refused.
+  if (args.front().rfind("--", 0) == 0) {
+    err << "netrix: unknown option " << args.front() << ".\n" << UsageText();
+    return 2;
+  }
+  return kNotHeadless;
 }
 
 }  // namespace app

@@ -72,22 +72,34 @@ void BM_LoadTouchstoneDb1601(benchmark::State& state) {
 }
 BENCHMARK(BM_LoadTouchstoneDb1601)->Unit(benchmark::kMicrosecond);
 
-void BM_ComputeTwoPortFigures(benchmark::State& state) {
-  numerics::DataSetStore store;
+// Per point, from the measured Polar values as the windows and the commands take them.
+template <void (*Compute)(numerics::TwoPortState&, numerics::TwoPortFigures&)>
+void FiguresPerPoint(benchmark::State& state) {
+  static numerics::DataSetStore store;
+  store.openCount = 0;
   numerics::LoadTwoPortFile(store, SweepFile());
   const numerics::TwoPortDataSet& set = store.sets[0];
   numerics::TwoPortState st;
-  numerics::FigureInputs in;
   numerics::TwoPortFigures fig;
   int i = 0;
   for (auto _ : state) {
     numerics::CopyPointToState(set.points[static_cast<std::size_t>(i)], st);
-    numerics::ComputeTwoPortFigures(st, in, fig);
+    Compute(st, fig);
     benchmark::DoNotOptimize(fig.u);
     i = (i + 1) % set.pointCount;
   }
 }
+
+void EveryFigure(numerics::TwoPortState& st, numerics::TwoPortFigures& fig) {
+  numerics::ComputeTwoPortFigures(st, {}, fig);
+}
+
+void BM_ComputeTwoPortFigures(benchmark::State& state) { FiguresPerPoint<EveryFigure>(state); }
 BENCHMARK(BM_ComputeTwoPortFigures);
+
+// k, mu, MAG, MSG, MUG and U only, as the series evaluation and netrix --figures take them.
+void BM_ComputeGainFigures(benchmark::State& state) { FiguresPerPoint<numerics::ComputeGainFigures>(state); }
+BENCHMARK(BM_ComputeGainFigures);
 
 }  // namespace
 

@@ -1,103 +1,114 @@
 #include "conversions.h"
 
+#include "cartesian.h"
+
 namespace numerics {
 namespace {
 
-ComplexValue Negated(const ComplexValue& z) { return Scale(z, -1); }
+// A working matrix in Cartesian doubles: the conversions read each element once and write
+// their results back in Cartesian form.
+struct CartesianMatrix {
+  Cartesian m11, m12, m21, m22;
+};
 
-void ScaleAll(Matrix2& m, double factor) {
-  m.m11 = Scale(m.m11, factor);
-  m.m12 = Scale(m.m12, factor);
-  m.m21 = Scale(m.m21, factor);
-  m.m22 = Scale(m.m22, factor);
+CartesianMatrix ToCartesianMatrix(const Matrix2& m) {
+  return {ToCartesian(m.m11), ToCartesian(m.m12), ToCartesian(m.m21), ToCartesian(m.m22)};
 }
+
+Matrix2 ToValues(const CartesianMatrix& m) { return {ToValue(m.m11), ToValue(m.m12), ToValue(m.m21), ToValue(m.m22)}; }
+
+CartesianMatrix Scaled(const CartesianMatrix& m, double factor) {
+  return {m.m11 * factor, m.m12 * factor, m.m21 * factor, m.m22 * factor};
+}
+
+Cartesian Determinant(const CartesianMatrix& m) { return m.m11 * m.m22 - m.m12 * m.m21; }
 
 // The bilinear map shared by S->Y and Y->S: with a = m11, d = m22 and the product p = m12*m21,
-// out11 = ((1 - a)(1 + d) + p) / D, out22 = ((1 + a)(1 - d) + p) / D, out12 = -2 m12 / D.
-// Divisors shared by several quotients are taken in Polar form once, as Div would take them.
-Matrix2 BilinearTransform(const Matrix2& m, const ComplexValue& divisor) {
-  const ComplexValue denominator = AsPolar(divisor);
-  const ComplexValue product = Mul(m.m12, m.m21);
-  Matrix2 out;
-  out.m12 = Div(Scale(m.m12, -2), denominator);
-  out.m21 = Div(Scale(m.m21, -2), denominator);
-  out.m11 = Div(Add(Mul(RealMinus(1, m.m11), AddReal(m.m22, 1)), product), denominator);
-  out.m22 = Div(Add(Mul(AddReal(m.m11, 1), RealMinus(1, m.m22)), product), denominator);
-  return out;
+// out11 = ((1 - a)(1 + d) + p) / D, out22 = ((1 + a)(1 - d) + p) / D, out12 = -2 m12 / D,
+// where D = (1 + a)(1 + d) - p.
+CartesianMatrix BilinearTransform(const CartesianMatrix& m, Cartesian inverseDivisor) {
+  const Cartesian product = m.m12 * m.m21;
+  return {((1 - m.m11) * (1 + m.m22) + product) * inverseDivisor, m.m12 * inverseDivisor * -2,
+          m.m21 * inverseDivisor * -2, ((1 + m.m11) * (1 - m.m22) + product) * inverseDivisor};
 }
 
-ComplexValue OnePlusProductMinus(const Matrix2& m) {
-  return Sub(Mul(AddReal(m.m11, 1), AddReal(m.m22, 1)), Mul(m.m12, m.m21));
+Cartesian OnePlusProductMinus(const CartesianMatrix& m) { return (1 + m.m11) * (1 + m.m22) - m.m12 * m.m21; }
+
+// Y12 and Y21 lifted in place, as the conversions through det Y need them.
+CartesianMatrix LiftedTransfer(Matrix2& y) {
+  CartesianMatrix c = ToCartesianMatrix(y);
+  LiftIfTiny(c.m12);
+  LiftIfTiny(c.m21);
+  y.m12 = ToValue(c.m12);
+  y.m21 = ToValue(c.m21);
+  return c;
 }
 
 }  // namespace
 
-ComplexValue DeterminantS(const TwoPortState& st) {
-  return Sub(Mul(st.s.m11, st.s.m22), Mul(st.s.m12, st.s.m21));
-}
+ComplexValue DeterminantS(const TwoPortState& st) { return ToValue(Determinant(ToCartesianMatrix(st.s))); }
 
-ComplexValue DeterminantY(const TwoPortState& st) {
-  return Sub(Mul(st.y.m11, st.y.m22), Mul(st.y.m12, st.y.m21));
-}
+ComplexValue DeterminantY(const TwoPortState& st) { return ToValue(Determinant(ToCartesianMatrix(st.y))); }
 
 void ConvertSToY(TwoPortState& st) {
-  ShrinkIfUnit(st.s.m11);
-  ShrinkIfUnit(st.s.m22);
-  LiftIfTiny(st.s.m12);
-  LiftIfTiny(st.s.m21);
-  st.y = BilinearTransform(st.s, OnePlusProductMinus(st.s));
-  ScaleAll(st.y, 1 / st.z0);
+  CartesianMatrix s = ToCartesianMatrix(st.s);
+  ShrinkIfUnit(s.m11);
+  ShrinkIfUnit(s.m22);
+  LiftIfTiny(s.m12);
+  LiftIfTiny(s.m21);
+  st.s = ToValues(s);
+  st.y = ToValues(Scaled(BilinearTransform(s, Reciprocal(OnePlusProductMinus(s))), 1 / st.z0));
 }
 
 void ConvertYToS(TwoPortState& st) {
-  ScaleAll(st.y, st.z0);
-  ComplexValue denominator = OnePlusProductMinus(st.y);
+  const CartesianMatrix y = Scaled(ToCartesianMatrix(st.y), st.z0);
+  Cartesian denominator = OnePlusProductMinus(y);
   LiftIfTiny(denominator);
-  st.s = BilinearTransform(st.y, denominator);
-  if (Abs(st.s.m22) == 1) SetMagnitude(st.s.m22, 0.9999);
-  if (Abs(st.s.m11) == 1) SetMagnitude(st.s.m11, 0.9999);
-  ScaleAll(st.y, 1 / st.z0);
+  CartesianMatrix s = BilinearTransform(y, Reciprocal(denominator));
+  // A unit magnitude is pulled to 0.9999, the output port first.
+  if (Magnitude(s.m22) == 1) s.m22 = s.m22 * 0.9999;
+  if (Magnitude(s.m11) == 1) s.m11 = s.m11 * 0.9999;
+  st.s = ToValues(s);
+  st.y = ToValues(Scaled(y, 1 / st.z0));
 }
 
 void ConvertYToZ(TwoPortState& st) {
-  LiftIfTiny(st.y.m12);
-  LiftIfTiny(st.y.m21);
-  st.detY = DeterminantY(st);
-  const ComplexValue d = AsPolar(st.detY);
-  st.z.m11 = Div(st.y.m22, d);
-  st.z.m22 = Div(st.y.m11, d);
-  st.z.m12 = Div(Negated(st.y.m12), d);
-  st.z.m21 = Div(Negated(st.y.m21), d);
+  const CartesianMatrix y = LiftedTransfer(st.y);
+  const Cartesian det = Determinant(y);
+  st.detY = ToValue(det);
+  const Cartesian inverse = Reciprocal(det);
+  st.z = ToValues({y.m22 * inverse, y.m12 * inverse * -1, y.m21 * inverse * -1, y.m11 * inverse});
 }
 
 void ConvertYToH(TwoPortState& st) {
-  LiftIfTiny(st.y.m12);
-  LiftIfTiny(st.y.m21);
-  st.detY = DeterminantY(st);
-  const ComplexValue y11 = AsPolar(st.y.m11);
-  st.h.m11 = Inverse(y11);
-  st.h.m12 = Div(Negated(st.y.m12), y11);
-  st.h.m21 = Div(st.y.m21, y11);
-  st.h.m22 = Div(st.detY, y11);
+  const CartesianMatrix y = LiftedTransfer(st.y);
+  const Cartesian det = Determinant(y);
+  st.detY = ToValue(det);
+  const Cartesian inverse = Reciprocal(y.m11);
+  st.h = ToValues({inverse, y.m12 * inverse * -1, y.m21 * inverse, det * inverse});
 }
 
 void ConvertYToPi(TwoPortState& st) {
-  st.pi.series = Negated(st.y.m12);
-  st.pi.inputShunt = Add(st.y.m11, st.y.m12);
-  st.pi.transadmittance = Sub(st.y.m21, st.y.m12);
-  st.pi.outputShunt = Add(st.y.m22, st.y.m12);
+  const CartesianMatrix y = ToCartesianMatrix(st.y);
+  st.pi.series = ToValue(y.m12 * -1);
+  st.pi.inputShunt = ToValue(y.m11 + y.m12);
+  st.pi.transadmittance = ToValue(y.m21 - y.m12);
+  st.pi.outputShunt = ToValue(y.m22 + y.m12);
 }
 
 void ConvertYToChain(TwoPortState& st) {
-  LiftIfTiny(st.y.m21);
-  st.detY = DeterminantY(st);
-  const ComplexValue y21 = AsPolar(st.y.m21);
-  st.chain.a = Negated(Div(st.y.m22, y21));
-  st.chain.b = Negated(Inverse(y21));
-  st.chain.c = Negated(Div(st.detY, y21));
-  st.chain.d = Negated(Div(st.y.m11, y21));
+  CartesianMatrix y = ToCartesianMatrix(st.y);
+  LiftIfTiny(y.m21);
+  st.y.m21 = ToValue(y.m21);
+  const Cartesian det = Determinant(y);
+  st.detY = ToValue(det);
+  const Cartesian minusInverse = Reciprocal(y.m21) * -1;
+  st.chain = {ToValue(y.m22 * minusInverse), ToValue(minusInverse), ToValue(det * minusInverse),
+              ToValue(y.m11 * minusInverse)};
 }
 
+// The image parameters keep the ComplexValue operations: the imaginary part of ACosh is in
+// degrees, as Ln gives it.
 void ConvertChainToImage(TwoPortState& st) {
   LiftIfTiny(st.chain.c);
   st.image.propagation = ACosh(Scale(Add(st.chain.a, st.chain.d), 0.5));
@@ -105,14 +116,14 @@ void ConvertChainToImage(TwoPortState& st) {
 }
 
 void ApplyCommonLeadFeedback(TwoPortState& st) {
-  const ComplexValue v = Inverse(st.commonLeadImpedance);
-  const ComplexValue s = AsPolar(Add(Add(Add(Add(st.y.m11, st.y.m12), st.y.m21), st.y.m22), v));
-  st.detY = DeterminantY(st);
-  const ComplexValue w = Add(Div(st.detY, s), st.feedbackAdmittance);
-  st.y.m11 = Add(Div(Mul(st.y.m11, v), s), w);
-  st.y.m12 = Sub(Div(Mul(st.y.m12, v), s), w);
-  st.y.m21 = Sub(Div(Mul(st.y.m21, v), s), w);
-  st.y.m22 = Add(Div(Mul(st.y.m22, v), s), w);
+  const CartesianMatrix y = ToCartesianMatrix(st.y);
+  const Cartesian v = Reciprocal(ToCartesian(st.commonLeadImpedance));
+  const Cartesian inverseSum = Reciprocal(y.m11 + y.m12 + y.m21 + y.m22 + v);
+  const Cartesian det = Determinant(y);
+  st.detY = ToValue(det);
+  const Cartesian w = det * inverseSum + ToCartesian(st.feedbackAdmittance);
+  const Cartesian factor = v * inverseSum;
+  st.y = ToValues({y.m11 * factor + w, y.m12 * factor - w, y.m21 * factor - w, y.m22 * factor + w});
 }
 
 void ConvertSToY() { ConvertSToY(WorkingState()); }

@@ -50,7 +50,7 @@ double ClampValue(double upper, double lower, double x) {
 
 double Log10(double x) {
   if (x == 0) return kLogOfZero;
-  return static_cast<double>(std::log(std::fabs(static_cast<Extended>(x))) / std::log(Extended{10}));
+  return std::log10(std::fabs(x));
 }
 
 double Decibels(double powerRatio) { return 10 * Log10(powerRatio); }

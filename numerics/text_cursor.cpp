@@ -144,15 +144,17 @@ std::string_view TextCursor::ReadLineView() {
 
 std::string TextCursor::ReadLine() { return std::string(ReadLineView()); }
 
-std::optional<double> TextCursor::ReadReal() {
+bool TextCursor::ScanReal(double& value) {
   while (pos_ < text_.size() && IsSeparator(text_[pos_])) ++pos_;
-  if (pos_ >= text_.size()) return 0.0;
+  value = 0;
+  if (pos_ >= text_.size()) return true;
   // A number as the runtime reads it; words such as "inf" and "nan" are not numbers here.
   std::size_t end = pos_;
-  while (end < text_.size() && !IsSeparator(text_[end])) ++end;
-  const std::optional<double> value = ParseRealToken(text_.substr(pos_, end - pos_));
-  if (value) pos_ = end;
-  return value;
+  const DecimalShape d = ScanDecimal(text_, end);
+  if (!d.valid || (end < text_.size() && !IsSeparator(text_[end]))) return false;
+  value = ToDouble(d, text_.substr(pos_, end - pos_));
+  pos_ = end;
+  return true;
 }
 
 int TextCursor::LineNumber() const {

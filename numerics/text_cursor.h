@@ -31,7 +31,11 @@ class TextCursor {
 
   // Skips blanks, tabs and line breaks, then reads one number. At the end of the file the
   // value is 0. A token that is not a number yields nullopt and leaves the cursor on it.
-  std::optional<double> ReadReal();
+  std::optional<double> ReadReal() {
+    double value = 0;
+    if (!ScanReal(value)) return std::nullopt;
+    return value;
+  }
 
   std::size_t Position() const { return pos_; }
   std::string_view Slice(std::size_t from, std::size_t to) const { return text_.substr(from, to - from); }
@@ -42,6 +46,10 @@ class TextCursor {
   std::string TokenAtCursor() const;
 
  private:
+  // ReadReal without the optional: one handed back from a call that is not inlined goes through
+  // memory in a way that stalls the processor on every number, and files hold many.
+  bool ScanReal(double& value);
+
   std::string_view text_;
   std::size_t pos_ = 0;
 };

@@ -1,50 +1,98 @@
 #include "text_file.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cctype>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <memory>
 
 namespace numerics {
 namespace {
 
-// Data files of 253 points are some 20 kB; the cap keeps a device or a runaway file from
-// filling memory.
+// Data files of 253 points are some 20 kB; the cap keeps a runaway file from filling memory.
 constexpr std::size_t kMostBytesRead = 64U << 20;
+constexpr std::size_t kReadChunk = 64U << 10;
+
+class FileDescriptor {
+ public:
+  explicit FileDescriptor(int fd) : fd_(fd) {}
+  ~FileDescriptor() {
+    if (fd_ >= 0) close(fd_);
+  }
+  FileDescriptor(const FileDescriptor&) = delete;
+  FileDescriptor& operator=(const FileDescriptor&) = delete;
+  int Get() const { return fd_; }
+
+ private:
+  int fd_;
+};
+
+// Reads to the end of the file; false with errno set when a read fails.
+bool ReadAll(int fd, std::size_t expectedSize, std::string& content) {
+  content.resize(std::min(expectedSize, kMostBytesRead) + 1);  // one more byte finds the end at once
+  std::size_t filled = 0;
+  for (;;) {
+    if (filled == content.size()) {
+      if (content.size() >= kMostBytesRead) break;
+      content.resize(std::min(content.size() + kReadChunk, kMostBytesRead));
+    }
+    const ssize_t n = read(fd, content.data() + filled, content.size() - filled);
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) return false;
+    if (n == 0) break;
+    filled += static_cast<std::size_t>(n);
+  }
+  content.resize(filled);
+  return true;
+}
 
 }  // namespace
 
+// One open and one status query: the file's kind is checked on the open file, which does not
+// block on a pipe (O_NONBLOCK) and cannot change between the check and the read.
 std::optional<std::string> ReadTextFile(const std::string& path, std::string& reason) {
-  std::error_code ec;
-  if (std::filesystem::is_directory(path, ec)) {
-    reason = std::strerror(EISDIR);
-    return std::nullopt;
-  }
-  if (std::filesystem::exists(path, ec) && !std::filesystem::is_regular_file(path, ec)) {
-    reason = "not a regular file";  // a device or a pipe could be read forever
-    return std::nullopt;
-  }
-  std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), &std::fclose);
-  if (!file) {
+  const FileDescriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  struct stat status {};
+  if (file.Get() < 0 || fstat(file.Get(), &status) != 0) {
     reason = std::strerror(errno);
     return std::nullopt;
   }
-  std::string content;
-  // Reading into room made for the whole file spares the copies of a growing string.
-  const std::uintmax_t size = std::filesystem::file_size(path, ec);
-  if (!ec) content.reserve(std::min<std::uintmax_t>(size, kMostBytesRead));
-  char buffer[65536];
-  std::size_t got = 0;
-  while (content.size() < kMostBytesRead && (got = std::fread(buffer, 1, sizeof buffer, file.get())) > 0) {
-    content.append(buffer, got);
+  if (S_ISDIR(status.st_mode)) {
+    reason = std::strerror(EISDIR);
+    return std::nullopt;
   }
-  if (std::ferror(file.get())) {
+  if (!S_ISREG(status.st_mode)) {
+    reason = "not a regular file";  // a device or a pipe could be read forever
+    return std::nullopt;
+  }
+  std::string content;
+  if (!ReadAll(file.Get(), static_cast<std::size_t>(status.st_size), content)) {
     reason = std::strerror(errno);
     return std::nullopt;
   }
   return content;
+}
+
+bool HasExtension(const std::string& path, std::span<const std::string_view> extensions) {
+  std::string extension = std::filesystem::path(path).extension().string();
+  std::transform(extension.begin(), extension.end(), extension.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
+}
+
+std::vector<std::string> FilesInFolder(const std::string& folder, std::span<const std::string_view> extensions) {
+  std::vector<std::string> files;
+  std::error_code error;
+  for (std::filesystem::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
+    const std::string path = it->path().string();
+    if (it->is_regular_file(error) && HasExtension(path, extensions)) files.push_back(path);
+  }
+  std::sort(files.begin(), files.end());
+  return files;
 }
 
 }  // namespace numerics

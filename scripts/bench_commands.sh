@@ -1,24 +1,27 @@
 #!/usr/bin/env bash
-# Whole-process timings of the headless commands: median of 30 runs, in milliseconds.
+# Whole-process timings of the headless commands: median of several runs, in milliseconds.
 set -euo pipefail
 build=${1:-build}
 netrix="$build/app/netrix"
 
+# median_ms RUNS COMMAND... (bash's own clock, so that no helper process is timed with it)
 median_ms() {
-  local times=()
-  for _ in $(seq 30); do
+  local runs=$1 times=()
+  shift
+  for _ in $(seq "$runs"); do
     local start end
-    start=$(date +%s%N)
+    start=${EPOCHREALTIME/./}
     "$@" >/dev/null
-    end=$(date +%s%N)
-    times+=($(( (end - start) / 1000 )))
+    end=${EPOCHREALTIME/./}
+    times+=($((end - start)))
   done
   printf '%s\n' "${times[@]}" | sort -n | awk '{a[NR]=$1} END {printf "%.2f ms\n", a[int((NR+1)/2)]/1000}'
 }
 
 sweep=$(mktemp --suffix=.s2p)
 series=$(mktemp -d)
-trap 'rm -f "$sweep"; rm -rf "$series"' EXIT
+batch=$(mktemp -d)
+trap 'rm -f "$sweep"; rm -rf "$series" "$batch"' EXIT
 {
   echo "Benchmark sweep, 253 points"
   for i in $(seq 0 253); do
@@ -26,7 +29,11 @@ trap 'rm -f "$sweep"; rm -rf "$series"' EXIT
   done
 } >"$sweep"
 
-echo "netrix --figures, 253 points: $(median_ms "$netrix" --figures "$sweep")"
+echo "netrix --figures, 253 points: $(median_ms 30 "$netrix" --figures "$sweep")"
+
+# A batch of 1000 files of 253 points in one call.
+for n in $(seq -w 1 1000); do cp "$sweep" "$batch/sweep_$n.s2p"; done
+echo "netrix --figures, 1000 files of 253 points: $(median_ms 9 "$netrix" --figures "$batch")"
 
 # A bias series of 40 files of 253 points, frequencies in MHz, evaluated with the ground inductance.
 for n in $(seq 1 40); do
@@ -39,4 +46,5 @@ for n in $(seq 1 40); do
              5 + n * 0.1 - i * 0.01, 150 - i * 0.5, 0.02 + i * 1e-4, 70 - i * 0.2, 0.6 - i * 1e-3, -20 - i * 0.3 }'
   } >"$series/point_$n.s2p"
 done
-echo "netrix --series --with-lgnd, 40 files of 253 points: $(median_ms "$netrix" --series --with-lgnd "$series"/point_*.s2p)"
+echo "netrix --series --with-lgnd, 40 files of 253 points:" \
+  "$(median_ms 30 "$netrix" --series --with-lgnd "$series"/point_*.s2p)"

@@ -1,7 +1,6 @@
 #include "point_figures.h"
 
 #include "numerics/conversions.h"
-#include "numerics/extended.h"
 
 namespace series {
 namespace {
@@ -13,9 +12,8 @@ constexpr double kFeedbackAdmittance = 1e-12;
 }  // namespace
 
 void InsertGroundInductance(numerics::TwoPortState& st, double f, double lgnd) {
-  const numerics::Extended reactance = numerics::Extended{kTwoPi} * f * lgnd;
   st.feedbackAdmittance = numerics::MakeCartesian(kFeedbackAdmittance, kFeedbackAdmittance);
-  st.commonLeadImpedance = numerics::MakeCartesian(0, static_cast<double>(reactance));
+  st.commonLeadImpedance = numerics::MakeCartesian(0, kTwoPi * f * lgnd);
   numerics::ConvertSToY(st);
   numerics::ApplyCommonLeadFeedback(st);
   numerics::ConvertYToS(st);

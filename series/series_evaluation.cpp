@@ -3,7 +3,6 @@
 #include <cmath>
 #include <optional>
 
-#include "numerics/extended.h"
 #include "numerics/reader_core.h"
 #include "numerics/real_functions.h"
 #include "numerics/text_cursor.h"
@@ -41,9 +40,9 @@ void TakeAnalysisValues(const AnalysisPoint& point, numerics::TwoPortState& st, 
   st.s = point.s;
   const CurrentGain current = ComputeCurrentGain(st);
   const PointFigures& p = point.figures;
-  const numerics::Extended gain = fmaxFromU ? p.u : p.bestGain;
-  out.fT = static_cast<double>(numerics::Extended{current.h21} * point.f);
-  out.fmax = static_cast<double>(std::sqrt(std::fabs(gain)) * point.f);
+  const double gain = fmaxFromU ? p.u : p.bestGain;
+  out.fT = current.h21 * point.f;
+  out.fmax = std::sqrt(std::fabs(gain)) * point.f;
   out.magDb = 10 * numerics::Log10(p.bestGain);
   out.s21 = current.s21;
   out.k = p.k;

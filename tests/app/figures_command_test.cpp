@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "app/figures_rows.h"
 #include "command_test.h"
 
 namespace app {
@@ -21,7 +25,7 @@ using FiguresCommandTest = CommandTest;
 
 TEST_F(FiguresCommandTest, PrintsOneLinePerPointOfAMatchedAttenuator) {
   // 10 dB matched attenuator: S21 = S12 = 10^-0.5, S11 = S22 = 0, at two frequencies.
-  const std::string path = Write("amp.s2p", "10 dB attenuator\n123456789.123 0 0 0.316227766 0 0.316227766 0 0 0\n"
+  const std::string path = Write("amp.s2p", "10 dB attenuator\n1G 0 0 0.316227766 0 0.316227766 0 0 0\n"
                                             "2G 0 0 0.316227766 0 0.316227766 0 0 0\n");
   ASSERT_EQ(Run({"--figures", path}), 0) << err_.str();
   std::stringstream lines(out_.str());
@@ -31,7 +35,6 @@ TEST_F(FiguresCommandTest, PrintsOneLinePerPointOfAMatchedAttenuator) {
   std::getline(lines, second);
   EXPECT_FALSE(std::getline(lines, extra));
   EXPECT_EQ(header, "f_Hz,k,mu,mu_prime,stable,MAG_dB,MSG_or_MAG_dB,MUG_dB,U_dB,U_ratio_dB,S21sq_dB,h21_abs");
-  EXPECT_EQ(first.substr(0, first.find(',')), "123456789.1");  // ten significant digits
   const std::vector<double> v = Fields(first);
   ASSERT_EQ(v.size(), 12U);
   EXPECT_NEAR(v[1], 1.01 / 0.2, 1e-8);  // k = (1 + |S21|^4) / (2 |S21|^2)
@@ -43,7 +46,52 @@ TEST_F(FiguresCommandTest, PrintsOneLinePerPointOfAMatchedAttenuator) {
   EXPECT_NEAR(v[8], -10, 1e-8);         // reciprocal: U = MAG
   EXPECT_NEAR(v[10], -10, 1e-8);
   EXPECT_NEAR(v[11], 2 * 0.316227766 / 1.1, 1e-8);  // |h21| = 2 S21 / (1 + S21^2)
+  EXPECT_EQ(v[0], 1e9);
   EXPECT_EQ(Fields(second)[0], 2e9);
+}
+
+TEST(FiguresNumbers, AreWrittenAsPrintfWritesThemWithTenDigits) {
+  for (const double v : {-1e301, 0.0, -0.0, 0.1, 123456789.123, 9.9999999995, 99999.999995, 1e-5, 1.5e-310,
+                         -2.5e15, 1e100 / 3, static_cast<double>(INFINITY), -static_cast<double>(NAN)}) {
+    std::string text;
+    AppendNumber(text, v);
+    char expected[40];
+    std::snprintf(expected, sizeof expected, "%.10g", v);
+    EXPECT_EQ(text, expected);
+  }
+}
+
+TEST_F(FiguresCommandTest, WritesABatchInTheGivenOrderAndReportsWhatFails) {
+  const std::string row = "0 0 0.316227766 0 0.316227766 0 0 0\n";
+  const std::string a = Write("a.s2p", "first\n1G " + row + "2G " + row);
+  const std::string quoted = Write("b,\"c\".s2p", "second\n3G " + row);
+  std::filesystem::create_directories(Path("folder/deeper"));
+  const std::string z = Write("folder/z.S2P", "third\n4G " + row);
+  const std::string y = Write("folder/y.spm", "fourth\n5G " + row);
+  Write("folder/notes.txt", "not data\n");
+  Write("folder/deeper/x.s2p", "not taken\n6G " + row);
+  std::filesystem::create_directories(Path("empty"));
+  const std::string missing = Path("missing.s2p");
+
+  ASSERT_EQ(Run({"--figures", a}), 0) << err_.str();
+  const std::string single = out_.str();
+  EXPECT_EQ(Run({"--figures", Path("folder"), missing, a, Path("empty"), quoted}), 1);
+  EXPECT_EQ(err_.str(), "File " + missing + " is not present!\nnetrix --figures: the folder " + Path("empty") +
+                            " holds no .s2p or .spm file. Name S-parameter files or folders holding them.\n");
+  std::stringstream lines(out_.str());
+  std::vector<std::string> files;
+  std::string line;
+  std::getline(lines, line);
+  EXPECT_EQ(line, "file," + single.substr(0, single.find('\n')));
+  std::string rowsOfA;
+  while (std::getline(lines, line)) {
+    const std::size_t fieldEnd = line.front() == '"' ? line.find("\",") + 1 : line.find(',');
+    files.push_back(line.substr(0, fieldEnd));
+    if (files.back() == a) rowsOfA += line.substr(fieldEnd + 1) + "\n";
+  }
+  // A folder gives its data files in name order; a path with a comma or a quote is quoted.
+  EXPECT_EQ(files, (std::vector<std::string>{y, z, a, a, "\"" + Path("b,\"\"c\"\".s2p") + "\""}));
+  EXPECT_EQ(rowsOfA, single.substr(single.find('\n') + 1));
 }
 
 // Without --touchstone the file reads as it always has, and standard error says why it should not.

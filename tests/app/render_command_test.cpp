@@ -196,7 +196,7 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorCase{"series_zero_area", "--series --area 0 a.s2p", "--area is the transistor area"},
         ErrorCase{"series_lower_case_multiplier", "--series --multiplier mhz a.s2p", "--multiplier takes Hz, MHz or GHz"},
         ErrorCase{"series_unknown_x_axis", "--series --x-axis vce a.s2p", "--x-axis takes ic, id or fileno"},
-        ErrorCase{"figures_no_file", "--figures", "needs exactly one file name"},
+        ErrorCase{"figures_no_file", "--figures", "needs at least one file or folder name"},
         ErrorCase{"figures_missing_file", "--figures /nonexistent/amp.s2p", "File /nonexistent/amp.s2p is not present!"}),
     [](const testing::TestParamInfo<ErrorCase>& info) { return std::string(info.param.name); });
 

@@ -104,12 +104,17 @@ TEST_F(SeriesCommandTest, AFailedRunLeavesTheOutputFileAsItWas) {
 TEST(Help, NamesEveryModeAndOption) {
   std::ostringstream out, err;
   ASSERT_EQ(RunHeadlessMode({"--help"}, out, err), 0);
-  for (const char* text : {"--figures [--touchstone] FILE", "--touchstone", "--render VIEW --out PATH",
+  for (const char* text : {"--figures [--touchstone] FILE|FOLDER...", "--render VIEW --out PATH",
                            "--render ft-fmax|k-mag|stability-limit",
                            "--series [options] FILE...", "--multiplier Hz|MHz|GHz", "--x-axis ic|id|fileno"}) {
     EXPECT_NE(out.str().find(text), std::string::npos) << text;
   }
-  EXPECT_EQ(RunHeadlessMode({"--no-such-mode"}, out, err), -1);
+  EXPECT_EQ(RunHeadlessMode({"--no-such-mode"}, out, err), 2);
+  EXPECT_NE(err.str().find("netrix: unknown option --no-such-mode.\nUsage:"), std::string::npos) << err.str();
+  // The window and --render are for the program that links Qt.
+  EXPECT_EQ(RunHeadlessMode({}, out, err), kNotHeadless);
+  EXPECT_EQ(RunHeadlessMode({"amp.s2p"}, out, err), kNotHeadless);
+  EXPECT_EQ(RunHeadlessMode({"--render", "smith"}, out, err), kNotHeadless);
 }
 
 }  // namespace

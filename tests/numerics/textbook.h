@@ -84,6 +84,30 @@ inline long double MasonU(const M2& y) {
   return std::norm(y.a21 - y.a12) / (4 * (y.a11.real() * y.a22.real() - y.a12.real() * y.a21.real()));
 }
 
+// The gain and stability figures as RF textbooks define them (Rollett, Edwards-Sinsky, Mason),
+// with the two deviations the program keeps on purpose: U subtracts |2 Re(S12 S21*)| instead of
+// 2 Re(S21 S12*), and its ratio form squares |r| - 1 instead of taking |r - 1|^2.
+struct Figures {
+  long double k, mu, muPrime, mag, msgOrMag, mug, u, uRatio;
+};
+inline Figures GainFigures(const M2& s) {
+  const C delta = s.a11 * s.a22 - s.a12 * s.a21;
+  const long double k = Rollett(s), transfer = std::abs(s.a21) / std::abs(s.a12), cross = std::abs(s.a12 * s.a21);
+  const long double mag = k >= 1 ? transfer * (k - std::sqrt(k * k - 1)) : 0;
+  const long double mug = std::norm(s.a21) / ((1 - std::norm(s.a11)) * (1 - std::norm(s.a22)));
+  const long double uDen = 1 - std::norm(s.a11) - std::norm(s.a22) + std::norm(delta) -
+                           std::abs(2 * (s.a12 * std::conj(s.a21)).real());
+  const C r = s.a21 / s.a12;
+  return {k,
+          (1 - std::norm(s.a22)) / (std::abs(s.a11 - delta * std::conj(s.a22)) + cross),  // source side
+          (1 - std::norm(s.a11)) / (std::abs(s.a22 - delta * std::conj(s.a11)) + cross),  // load side
+          mag,
+          k >= 1 ? mag : transfer,
+          mug,
+          std::norm(s.a21 - s.a12) / uDen,
+          (std::abs(r) - 1) * (std::abs(r) - 1) / (2 * (k * std::abs(r) - r.real()))};
+}
+
 inline void SetS(numerics::TwoPortState& st, const M2& s) {
   st.s = {ToValue(s.a11), ToValue(s.a12), ToValue(s.a21), ToValue(s.a22)};
 }

@@ -65,7 +65,6 @@ TEST_P(AnalysisPointTest, KeepsTheLastPointAtOrBelowFo) {
 INSTANTIATE_TEST_SUITE_P(Fo, AnalysisPointTest,
                          testing::Values(SelectionCase{"NearerToTheNextPoint", 2.19e9, 1},
                                          SelectionCase{"AtTheFirstPoint", 1.8e9, 0},
-                                         SelectionCase{"AboveAll", 20e9, 2},
                                          SelectionCase{"BelowTheFirstPoint", 1.7e9, -1}),
                          [](const testing::TestParamInfo<SelectionCase>& info) { return std::string(info.param.name); });
 
