@@ -31,16 +31,52 @@ bool WriteAll(int fd, const std::string& content) {
   return true;
 }
 
-std::string TemporaryPattern(const std::string& path) {
-  const std::filesystem::path target(path);
+std::string TemporaryPattern(const std::filesystem::path& target) {
   const std::filesystem::path folder = target.has_parent_path() ? target.parent_path() : ".";
   return (folder / ("." + target.filename().string() + ".XXXXXX")).string();
+}
+
+// The file a name stands for: symbolic links are followed to their target, which need not exist
+// yet, so that the link stays and its target gets the content.
+std::filesystem::path FinalTarget(const std::string& path) {
+  constexpr int kMostLinks = 40;
+  std::filesystem::path target(path);
+  for (int hop = 0; hop < kMostLinks; ++hop) {
+    std::error_code error;
+    const std::filesystem::path link = std::filesystem::read_symlink(target, error);
+    if (error) break;
+    target = link.is_absolute() ? link : target.parent_path() / link;
+  }
+  return target;
+}
+
+std::string Failure(const std::string& path, int reason) {
+  return "Cannot write " + path + ": " + std::strerror(reason) + ". Nothing was written; check the path and the free "
+         "space.";
+}
+
+// A device or a pipe is written as it is; it has no content to keep.
+bool WriteDirectly(const std::filesystem::path& target, const std::string& path, const std::string& content,
+                   std::string& error) {
+  const int fd = open(target.c_str(), O_WRONLY | O_CLOEXEC);
+  bool ok = fd >= 0 && WriteAll(fd, content);
+  int reason = errno;
+  if (fd >= 0 && close(fd) != 0 && ok) {
+    ok = false;
+    reason = errno;
+  }
+  if (!ok) error = Failure(path, reason);
+  return ok;
 }
 
 }  // namespace
 
 bool WriteFileAtomically(const std::string& path, const std::string& content, std::string& error) {
-  std::string pattern = TemporaryPattern(path);
+  const std::filesystem::path target = FinalTarget(path);
+  struct stat existing {};
+  const bool exists = stat(target.c_str(), &existing) == 0;
+  if (exists && !S_ISREG(existing.st_mode)) return WriteDirectly(target, path, content, error);
+  std::string pattern = TemporaryPattern(target);
   std::vector<char> name(pattern.begin(), pattern.end());
   name.push_back('\0');
   const int fd = mkstemp(name.data());
@@ -48,19 +84,21 @@ bool WriteFileAtomically(const std::string& path, const std::string& content, st
     error = "Cannot write " + path + ": " + std::strerror(errno) + ". Choose a folder you may write to.";
     return false;
   }
-  bool ok = fchmod(fd, NewFileMode()) == 0 && WriteAll(fd, content) && fsync(fd) == 0;
+  // An existing file keeps its permissions; a new one gets those of any new file.
+  const mode_t mode = exists ? existing.st_mode & 07777 : NewFileMode();
+  bool ok = fchmod(fd, mode) == 0 && WriteAll(fd, content) && fsync(fd) == 0;
   int reason = ok ? 0 : errno;
   if (close(fd) != 0 && ok) {
     ok = false;
     reason = errno;
   }
-  if (ok && std::rename(name.data(), path.c_str()) != 0) {
+  if (ok && std::rename(name.data(), target.c_str()) != 0) {
     ok = false;
     reason = errno;
   }
   if (ok) return true;
   unlink(name.data());
-  error = "Cannot write " + path + ": " + std::strerror(reason) + ". Nothing was written; check the path and the free space.";
+  error = Failure(path, reason);
   return false;
 }
 

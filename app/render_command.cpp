@@ -6,11 +6,10 @@
 
 #include "diagram/canvas.h"
 #include "numerics/file_reader.h"
+#include "output_safety.h"
 #include "render_options.h"
 #include "render_output.h"
 #include "atomic_file.h"
-#include "frequency_views.h"
-#include "graphwin/plots/curve_table.h"
 #include "render_views.h"
 #include "series_render.h"
 
@@ -30,10 +29,10 @@ std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, Ren
   return {};
 }
 
-// The curves of a view against frequency as the window's "Export Curves as CSV..." writes them.
-std::string WriteCurveTable(const RenderInput& input) {
+// The view's curves as its window's "Export Curves as CSV..." writes them.
+std::string WriteCurveTable(const RenderView& view, const RenderInput& input) {
   std::string error;
-  WriteFileAtomically(input.options.dataPath, graphwin::plots::CurveTableCsv(FrequencyPlotOf(input)), error);
+  WriteFileAtomically(input.options.dataPath, view.table(input), error);
   return error;
 }
 
@@ -60,6 +59,10 @@ int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::o
   if (format == nullptr) {
     return Fail(err, "cannot tell the picture format of \"" + o.outPath + "\"; end the name in " + PictureExtensions());
   }
+  for (const std::string* output : {&o.outPath, &o.dataPath}) {
+    if (output->empty()) continue;
+    if (const std::string refused = RefuseOutput(*output, o.files); !refused.empty()) return Fail(err, refused);
+  }
   const auto store = std::make_unique<numerics::DataSetStore>();
   RenderInput input{o, {}};
   if (const std::string failed = LoadFiles(o, *store, input, err); !failed.empty()) return Fail(err, failed);
@@ -70,7 +73,7 @@ int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::o
   });
   if (!written.Ok()) return Fail(err, written.error);
   if (!o.dataPath.empty()) {
-    if (const std::string error = WriteCurveTable(input); !error.empty()) return Fail(err, error);
+    if (const std::string error = WriteCurveTable(*view, input); !error.empty()) return Fail(err, error);
   }
   return 0;
 }

@@ -4,17 +4,16 @@
 #include <cstdio>
 #include <iterator>
 #include <string_view>
+#include <utility>
 
 #include "numerics/prefixed_number.h"
-#include "numerics/real_functions.h"
+#include "graphwin/plots/q_table.h"
 #include "touchstone_option.h"
 
 namespace app {
 namespace {
 
-// Q values as the constant-Q dialog takes them: with a unit prefix, limited to this range.
-constexpr double kLowestQ = 0.01;
-constexpr double kHighestQ = 10000;
+using graphwin::plots::SView;
 
 std::string ParseChart(const std::string& text, RenderOptions& o) {
   if (text == "z") o.chart = diagram::ChartKind::Impedance;
@@ -28,7 +27,28 @@ std::string ParseQ(const std::string& text, RenderOptions& o) {
   const numerics::ParsedValue q = numerics::ParseValueText(text);
   if (q.status != numerics::kParseDigitsRead) return "--q needs a number such as 2 or 0.5, not \"" + text + "\"";
   if (o.qValues.size() == kMaxQArcs) return "at most six --q arcs can be drawn";
-  o.qValues.push_back(numerics::ClampValue(kHighestQ, kLowestQ, q.value));
+  o.qValues.push_back(graphwin::plots::LimitedQ(q.value));  // as the constant-Q dialog takes it
+  return {};
+}
+
+std::string ParseSParameterMode(const std::string& text, RenderOptions& o) {
+  static constexpr std::pair<const char*, SView> kModes[] = {{"smith", SView::Smith},     {"polar", SView::Polar},
+                                                             {"cartesian", SView::Cartesian}, {"mag", SView::Magnitude},
+                                                             {"db", SView::Decibels},    {"phase", SView::Phase}};
+  for (const auto& [name, view] : kModes) {
+    if (text == name) {
+      o.mode = view;
+      return {};
+    }
+  }
+  return "--mode takes smith, polar, cartesian, mag, db or phase, not \"" + text + "\"";
+}
+
+// A number with a unit prefix, such as 2.4G.
+std::string ParseNumber(const std::string& name, const std::string& text, double& value) {
+  const numerics::ParsedValue parsed = numerics::ParseValueText(text);
+  if (parsed.status != numerics::kParseDigitsRead) return name + " needs a number such as 2.4G or 10, not \"" + text + "\"";
+  value = parsed.value;
   return {};
 }
 
@@ -87,13 +107,20 @@ std::string ParseCurves(const std::string& text, RenderOptions& o) {
   return {};  // the view is refused once the command line is read
 }
 
-std::string ParseMode(const std::string& text, RenderOptions& o) {
+std::string ParseImpedanceMode(const std::string& text, RenderOptions& o) {
   using graphwin::plots::ImpedanceMode;
   if (text == "mag") o.impedanceMode = ImpedanceMode::Magnitude;
   else if (text == "re") o.impedanceMode = ImpedanceMode::Real;
   else if (text == "q") o.impedanceMode = ImpedanceMode::Q;
-  else return "--mode takes mag, re or q, not \"" + text + "\"";
+  else return "--mode takes mag, re or q in the impedance view, not \"" + text + "\"";
   return {};
+}
+
+// The view comes first, so its modes are known here.
+std::string ParseMode(const std::string& text, RenderOptions& o) {
+  if (o.view == kImpedanceView) return ParseImpedanceMode(text, o);
+  if (o.view == kReflectionView || o.view == kTransmissionView) return ParseSParameterMode(text, o);
+  return "--mode belongs to the reflection, transmission and impedance views";
 }
 
 // Handles the option at args[i] (and its value); returns an error text or "".
@@ -103,9 +130,8 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
     o.spline = false;
     return {};
   }
-  const bool frequencyOption = name == "--curves" || name == "--xlog" || name == "--data" || name == "--mode";
+  const bool frequencyOption = name == "--curves" || name == "--xlog";
   o.frequencyOptionsGiven = o.frequencyOptionsGiven || frequencyOption;
-  o.modeGiven = o.modeGiven || name == "--mode";
   if (name == "--xlog") {
     o.xlog = true;
     return {};
@@ -114,7 +140,9 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
     o.touchstone = true;
     return {};
   }
-  if (name != "--out" && name != "--size" && name != "--chart" && name != "--q" && !frequencyOption) {
+  constexpr std::string_view kValued[] = {"--out",  "--size",    "--chart",   "--q",       "--curves",
+                                          "--data", "--mode",    "--param",   "--circles", "--s12-zoom"};
+  if (std::find(std::begin(kValued), std::end(kValued), name) == std::end(kValued)) {
     return "unknown option \"" + name + "\"";
   }
   if (i + 1 >= args.size()) return name + " needs a value";
@@ -124,8 +152,29 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
   if (name == "--chart") return ParseChart(value, o);
   if (name == "--q") return ParseQ(value, o);
   if (name == "--curves") return ParseCurves(value, o);
-  if (name == "--mode") return ParseMode(value, o);
   if (name == "--data") o.dataPath = value;
+  if (name == "--mode") return ParseMode(value, o);
+  if (name == "--param") o.parameters = value;
+  if (name == "--circles") return ParseNumber(name, value, o.circlesFrequency.emplace());
+  if (name == "--s12-zoom") return ParseNumber(name, value, o.s12Zoom);
+  return {};
+}
+
+// The options of the reflection and transmission views, against the view they were given for.
+std::string CheckSParameterOptions(const RenderOptions& o) {
+  const bool reflection = o.view == kReflectionView || o.view == "smith";
+  const bool transmission = o.view == kTransmissionView || o.view == "polar";
+  if (o.parameters != "both" && o.view != kReflectionView && o.view != kTransmissionView) {
+    return "--param belongs to the reflection and transmission views";
+  }
+  if (o.view == kTransmissionView && o.mode == SView::Smith) return "the transmission view has no Smith chart";
+  const bool known = o.parameters == "both" || (o.view == kReflectionView ? o.parameters == "s11" || o.parameters == "s22"
+                                                                           : o.parameters == "s21" || o.parameters == "s12");
+  if (!known) return "--param takes s11, s22 or both in the reflection view and s21, s12 or both in the transmission view";
+  if ((o.circlesFrequency || o.chart != diagram::ChartKind::Impedance || !o.qValues.empty()) && !reflection) {
+    return "--chart, --q and --circles belong to the reflection view";
+  }
+  if (o.s12Zoom != 1 && !transmission) return "--s12-zoom belongs to the transmission view";
   return {};
 }
 
@@ -135,10 +184,9 @@ std::string CheckComplete(const RenderOptions& o) {
   if (o.files.size() > kMaxRenderFiles) return "no more than 4 files can be drawn at once";
   const bool frequencyView = o.view == kGainView || o.view == kStabilityView || o.view == kImpedanceView;
   if (o.frequencyOptionsGiven && !frequencyView) {
-    return "--curves, --xlog and --data belong to the gain, stability and impedance views";
+    return "--curves and --xlog belong to the gain, stability and impedance views";
   }
-  if (o.modeGiven && o.view != kImpedanceView) return "--mode belongs to the impedance view";
-  return {};
+  return CheckSParameterOptions(o);
 }
 
 }  // namespace

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "diagram/smith_chart.h"
 #include "graphwin/plots/gain_plot.h"
 #include "graphwin/plots/impedance_plot.h"
+#include "graphwin/plots/sparameter_plot.h"
 #include "graphwin/plots/stability_plot.h"
 
 // The command line of netrix --render, parsed but not yet checked against the views, the
@@ -19,6 +21,8 @@ inline constexpr int kMaxRenderSide = 10000;
 inline constexpr const char* kGainView = "gain";
 inline constexpr const char* kStabilityView = "stability";
 inline constexpr const char* kImpedanceView = "impedance";
+inline constexpr const char* kReflectionView = "reflection";
+inline constexpr const char* kTransmissionView = "transmission";
 
 struct RenderOptions {
   std::string view;
@@ -37,7 +41,12 @@ struct RenderOptions {
   bool xlog = false;
   std::string dataPath;
   bool frequencyOptionsGiven = false;
-  bool modeGiven = false;
+  // The reflection and transmission views': the display mode (their first when not given), the
+  // parameters ("s11", "s22", "s21", "s12" or "both"), the circles' frequency, the S12 zoom.
+  std::optional<graphwin::plots::SView> mode;
+  std::string parameters = "both";
+  std::optional<double> circlesFrequency;
+  double s12Zoom = 1;
   bool touchstone = false;  // read the files as Touchstone files
   std::vector<std::string> files;
 };
@@ -51,9 +60,10 @@ struct ParsedRenderOptions {
 std::string ParseSize(const std::string& text, int& width, int& height);
 
 // args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]
-//       [--curves NAMES] [--mode mag|re|q] [--xlog] [--data CSV] [--touchstone] FILE...
+//       [--curves NAMES] [--xlog] [--data CSV] [--mode M] [--param P] [--circles FREQ]
+//       [--s12-zoom F] [--touchstone] FILE...
 // where the curve names are the view's: mag,u,mug,s21 (gain), k,u,mu (stability) or
-// port1,port2,pi,image,sym (impedance).
+// port1,port2,pi,image,sym (impedance), and the impedance view's modes mag, re and q.
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
 
 }  // namespace app

@@ -3,7 +3,9 @@
 #include <ostream>
 
 #include "atomic_file.h"
+#include "output_safety.h"
 #include "series/series_evaluation.h"
+#include "series/series_messages.h"
 #include "series/spa_export.h"
 #include "series_options.h"
 
@@ -12,9 +14,8 @@ namespace {
 
 bool WriteTable(const std::string& content, const SeriesOptions& options, std::ostream& out, std::ostream& err) {
   if (!options.outPath) {
-    out << content << std::flush;
-    if (!out) err << "netrix --series: the table could not be written to standard output.\n";
-    return static_cast<bool>(out);
+    out << content;
+    return StandardOutputWritten(out, err, "netrix --series", "the table");
   }
   std::string error;
   if (WriteFileAtomically(*options.outPath, content, error)) return true;
@@ -38,11 +39,21 @@ int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, st
     err << "netrix --series: " << error << '\n';
     return 1;
   }
+  if (options.outPath) {
+    if (const std::string refused = RefuseOutput(*options.outPath, options.files); !refused.empty()) {
+      err << "netrix --series: " << refused << '\n';
+      return 1;
+    }
+  }
   const series::SeriesList list = MakeSeries(options.files, err);
   series::SeriesArrays arrays;
   const series::SeriesEvaluation evaluation = series::EvaluateSeries(list, options.settings, arrays);
   for (const std::string& message : evaluation.messages) err << message << '\n';
   if (!evaluation.completed) return 1;
+  for (std::size_t i = 0; i < arrays.size(); ++i) {
+    const std::string warning = series::NonFiniteWarning(list.Path(i), arrays[i]);
+    if (!warning.empty()) err << "netrix --series: " << warning << '\n';
+  }
   return WriteTable(series::SpaContent(list, arrays, options.settings), options, out, err) ? 0 : 1;
 }
 

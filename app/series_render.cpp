@@ -8,6 +8,7 @@
 #include "diagram/canvas.h"
 #include "series/series_evaluation.h"
 #include "diagram/pages/page_graphs.h"
+#include "output_safety.h"
 #include "render_options.h"
 #include "render_output.h"
 #include "series_command.h"
@@ -81,6 +82,7 @@ int RunSeriesRender(const SeriesView& view, const std::vector<std::string>& args
   if (format == nullptr) {
     return Fail(err, "cannot tell the picture format of \"" + outPath + "\"; end the name in " + PictureExtensions());
   }
+  if (const std::string refused = RefuseOutput(outPath, o.series.files); !refused.empty()) return Fail(err, refused);
   const series::SeriesList list = MakeSeries(o.series.files, err);
   diagram::pages::PageScene scene{{}, o.series.settings, o.connect, {}};
   const series::SeriesEvaluation evaluation = series::EvaluateSeries(list, scene.settings, scene.results);

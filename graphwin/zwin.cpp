@@ -6,7 +6,6 @@
 #include <QPainter>
 #include <QPixmap>
 
-#include "controls/dialog_hooks.h"
 #include "diagram/axis.h"
 
 namespace graphwin {
@@ -50,7 +49,7 @@ TFormZ::TFormZ(InputsSource inputs, const GraphDialogs& dialogs)
   }
   BuildModeItems();
   connect(InsertFileItem("Druckereinstellung1", tr("Printer &Setup")), &QAction::triggered, this,
-          [this] { controls::SetUpPrinter(this, Printer()); });
+          &TFormZ::PrinterSetupClick);
 }
 
 void TFormZ::BuildModeItems() {
@@ -62,6 +61,7 @@ void TFormZ::BuildModeItems() {
     group->addAction(action);
     connect(action, &QAction::triggered, this, [this, mode = item.mode] { ModeClick(mode); });
   }
+  InsertScalesSeparator("N5");
 }
 
 plots::ImpedanceChoice TFormZ::Choice() const {

@@ -3,16 +3,18 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QMimeData>
 #include <QSettings>
 #include <QUrl>
+#include <filesystem>
+#include <system_error>
 
 #include "frequency_page.h"
 #include "history_list.h"
 #include "input_page.h"
 #include "main_window.h"
 #include "controls/message_box.h"
+#include "file_names.h"
 #include "numerics/data_set.h"
 #include "numerics/file_reader.h"
 #include "tools_menu.h"
@@ -41,12 +43,21 @@ QString ChooseFile(QFileDialog* dialog, const char* directoryKey) {
   return dialog->selectedFiles().front();
 }
 
+
+QString StoreFullText() {
+  return QObject::tr("No more than ") + QString::number(numerics::kMaxDataSets) + QObject::tr(" files can be open!");
+}
+
+bool Exists(const std::string& path) {
+  std::error_code error;
+  return std::filesystem::exists(path, error);
+}
+
 }  // namespace
 
 bool TSDIAppForm::RefuseWhenStoreFull() {
   if (numerics::DataSets().openCount < numerics::kMaxDataSets) return false;
-  controls::ShowMessage(this,
-                        tr("No more than ") + QString::number(numerics::kMaxDataSets) + tr(" files can be open!"));
+  controls::ShowMessage(this, StoreFullText());
   return true;
 }
 
@@ -62,17 +73,19 @@ void TSDIAppForm::Load1Click() {
   if (!chosen.isEmpty()) LoadFrequencyFile(chosen);
 }
 
+// A folder, a pipe or a device is named as such by the reader.
 void TSDIAppForm::LoadFrequencyFile(const QString& fileName) {
-  const QFileInfo file(fileName);
-  if (!file.isFile()) {
+  const std::string name = EncodeFileName(fileName);
+  if (!Exists(name)) {
     controls::ShowMessage(this, tr("File -") + fileName + tr("- is not available!"));
     return;
   }
-  const QString path = file.absoluteFilePath();
+  std::error_code error;
+  const std::string path = std::filesystem::absolute(name, error).lexically_normal().string();
   // Read first: a file that cannot be read must leave the series, the list and the page alone.
   const numerics::ReadingChoice choice{
       ReadsTouchstone() ? numerics::FileReading::Touchstone : numerics::FileReading::Plain, frequencyPage_->Z0()};
-  const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(path.toStdString(), choice);
+  const numerics::LoadOutcome outcome = numerics::LoadTwoPortFile(path, choice);
   if (outcome.status != numerics::LoadStatus::Loaded) {
     controls::ShowMessage(this, QString::fromStdString(outcome.message));
     return;
@@ -81,19 +94,23 @@ void TSDIAppForm::LoadFrequencyFile(const QString& fileName) {
   for (const std::string& note : outcome.notes) notes.append(QString::fromStdString(note));
   if (!notes.isEmpty()) controls::ShowMessage(this, notes.join("\n\n"));
   // A file of the frequency page belongs to the bias series as well.
-  series_.Append({path.toStdString()});
-  historyList1_->Add(path);
+  series_.Append({path});
+  historyList1_->Add(DecodeFileName(path));
   const numerics::TwoPortDataSet& set = numerics::DataSets().sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)];
-  frequencyPage_->AddFile({path.toStdString(), set.title, set.pointCount, true});
+  frequencyPage_->AddFile({path, set.title, set.pointCount, true});
 }
 
 void TSDIAppForm::LoadCommandLine(const QStringList& arguments) {
   for (const QString& argument : arguments.mid(0, kCommandLineFiles)) {
-    if (QFileInfo(argument).isFile()) {
+    if (Exists(EncodeFileName(argument))) {
       LoadFrequencyFile(argument);
     } else {
       controls::ShowMessage(this, tr("File ") + argument + tr(" is not present!"));
     }
+  }
+  if (arguments.size() > kCommandLineFiles) {
+    controls::ShowMessage(this, StoreFullText() + ' ' +
+                                    tr("Not loaded: %1").arg(arguments.mid(kCommandLineFiles).join(QStringLiteral(", "))));
   }
 }
 

@@ -2,11 +2,17 @@
 
 #include <QApplication>
 #include <cassert>
+#include <memory>
 
 #include "about_box.h"
+#include "display_guard.h"
+#include "file_names.h"
 #include "graphwin/grhilfe.h"
 #include "graphwin/gwin.h"
 #include "graphwin/kwin.h"
+#include "graphwin/phiwin.h"
+#include "graphwin/qkreis.h"
+#include "graphwin/vuwin.h"
 #include "graphwin/xmax_dlg.h"
 #include "graphwin/zwin.h"
 #include "help_boxes.h"
@@ -45,9 +51,14 @@ struct FormFactories {
   static QWidget* CreateHilfeBox(FormSet& forms, const QStringList&) {
     return forms.hilfeBox_ = new THilfeBox;
   }
+  static QWidget* CreateQcircle(FormSet& forms, const QStringList&) {
+    return forms.graphDialogs_.qCircle = new graphwin::TQcircle;
+  }
 
   static constexpr Factory kCreationOrder[] = {
       CreateSDIAppForm,
+      CreateGraphForm<graphwin::TFormVu, graphwin::DiagramWindow::Transmission>,
+      CreateGraphForm<graphwin::TFormPhi, graphwin::DiagramWindow::Reflection>,
       CreateGraphForm<graphwin::TFormG, graphwin::DiagramWindow::Gain>,
       CreateGraphForm<graphwin::TFormK, graphwin::DiagramWindow::Stability>,
       CreateGraphForm<graphwin::TFormZ, graphwin::DiagramWindow::Impedance>,
@@ -55,7 +66,8 @@ struct FormFactories {
       CreateXmaxDlg1,
       CreateAboutBox,
       CreateHilfeFOMBox,
-      CreateHilfeBox};
+      CreateHilfeBox,
+      CreateQcircle};
 };
 
 FormSet::FormSet(const QStringList& arguments) {
@@ -75,6 +87,14 @@ graphwin::TGraphForm* FormSet::DiagramWindowOf(graphwin::DiagramWindow window) c
   return diagramWindows_[index];
 }
 
+graphwin::TFormVu* FormSet::FormVu() const {
+  return static_cast<graphwin::TFormVu*>(DiagramWindowOf(graphwin::DiagramWindow::Transmission));
+}
+
+graphwin::TFormPhi* FormSet::FormPhi() const {
+  return static_cast<graphwin::TFormPhi*>(DiagramWindowOf(graphwin::DiagramWindow::Reflection));
+}
+
 graphwin::TFormG* FormSet::FormG() const {
   return static_cast<graphwin::TFormG*>(DiagramWindowOf(graphwin::DiagramWindow::Gain));
 }
@@ -87,12 +107,15 @@ void InitialiseApplication() {
 }
 
 int RunGui(int& argc, char** argv) {
-  QApplication application(argc, argv);
+  const auto application = [&] {
+    const DisplayGuard guard;
+    return std::make_unique<QApplication>(argc, argv);
+  }();
   InitialiseApplication();
-  QStringList arguments = QCoreApplication::arguments();
-  arguments.removeFirst();
+  QStringList arguments;  // the bytes of each name, which QCoreApplication::arguments() may not keep
+  for (int i = 1; i < argc; ++i) arguments.append(DecodeFileName(argv[i]));
   FormSet forms(arguments);
-  QObject::connect(forms.SDIAppForm(), &TSDIAppForm::FormClosed, &application, &QCoreApplication::quit,
+  QObject::connect(forms.SDIAppForm(), &TSDIAppForm::FormClosed, application.get(), &QCoreApplication::quit,
                    Qt::QueuedConnection);
   forms.SDIAppForm()->show();
   return QApplication::exec();

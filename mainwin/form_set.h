@@ -13,7 +13,10 @@ class QWidget;
 
 namespace graphwin {
 class TFormG;
+class TFormPhi;
+class TFormVu;
 class TGRHilfeBox;
+class TQcircle;
 class TXmaxDlg1;
 }  // namespace graphwin
 
@@ -38,9 +41,12 @@ class FormSet {
   TAboutBox* AboutBox() const { return aboutBox_; }
   THilfeFOMBox* HilfeFOMBox() const { return hilfeFomBox_; }
   THilfeBox* HilfeBox() const { return hilfeBox_; }
+  graphwin::TFormVu* FormVu() const;
+  graphwin::TFormPhi* FormPhi() const;
   graphwin::TFormG* FormG() const;
   graphwin::TGRHilfeBox* GRHilfeBox() const { return graphDialogs_.help; }
   graphwin::TXmaxDlg1* XmaxDlg1() const { return graphDialogs_.axisValue; }
+  graphwin::TQcircle* Qcircle() const { return graphDialogs_.qCircle; }
   // The graph window of a diagram button; null while that window is not part of the program.
   graphwin::TGraphForm* DiagramWindowOf(graphwin::DiagramWindow window) const;
 
@@ -53,7 +59,7 @@ class FormSet {
   THilfeFOMBox* hilfeFomBox_ = nullptr;
   THilfeBox* hilfeBox_ = nullptr;
   graphwin::FrequencyCursor cursor_;  // before the windows that register with it, so it outlives them
-  graphwin::GraphDialogs graphDialogs_{nullptr, nullptr, &cursor_};
+  graphwin::GraphDialogs graphDialogs_{nullptr, nullptr, nullptr, &cursor_};
   std::array<graphwin::TGraphForm*, graphwin::kDiagramWindowCount> diagramWindows_{};
 };
 

@@ -28,6 +28,7 @@
 #include "controls/message_box.h"
 #include "output_pages.h"
 #include "settings_file.h"
+#include "settings_problems.h"
 #include "tools_menu.h"
 
 namespace mainwin {
@@ -138,8 +139,9 @@ void TSDIAppForm::FormCreate(const QStringList& arguments) {
     table->SetCells(column, 0, QString::fromUtf8(series::kTableHeader[static_cast<std::size_t>(column)]));
   }
   ReadIniFile();
-  inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
+  inputPage_->ShowFiles(series_.Paths());
   QSettings settings;
+  if (const QString problem = StoreReadMessage(settings); !problem.isEmpty()) controls::ShowMessage(this, problem);
   restoreGeometry(settings.value(kGeometryKey).toByteArray());
   RestoreReadingChoice(settings);
   historyList1_->SetRegPath(QStringLiteral("netrix"));
@@ -153,27 +155,31 @@ void TSDIAppForm::FormCreate(const QStringList& arguments) {
 // A missing or unreadable file leaves the built-in values in place.
 void TSDIAppForm::ReadIniFile() {
   IniFile ini;
-  LoadIniFile(SettingsFilePath(), ini);
+  QString unused;
+  LoadIniFile(SettingsFilePath(), ini, unused);
   inputPage_->ShowSettings(ReadIniSettings(ini));
 }
 
-void TSDIAppForm::WriteIniFile() {
+QString TSDIAppForm::WriteIniFile() {
   const QString path = SettingsFilePath();
   IniFile ini;
-  LoadIniFile(path, ini);
+  QString reason;
+  if (!LoadIniFile(path, ini, reason)) return IniNotSavedMessage(path, reason);
   WriteIniSettings(inputPage_->CurrentSettings(), ini);
-  QString error;
-  if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !SaveIniFile(path, ini, error)) {
-    controls::ShowMessage(this, tr("The settings could not be saved to ") + path + " (" + error +
-                          tr("). Make the folder writable to keep them next time!"));
-  }
+  if (QDir().mkpath(QFileInfo(path).absolutePath()) && SaveIniFile(path, ini, reason)) return {};
+  const QString problem = WriteProblem(path);
+  return IniSaveFailedMessage(path, problem.isEmpty() ? reason : problem);
 }
 
+// Whatever could not be saved is told in one box.
 void TSDIAppForm::FormClose() {
-  WriteIniFile();
+  QStringList problems{WriteIniFile()};
   QSettings settings;
   historyList1_->Save(settings);
   settings.setValue(kGeometryKey, saveGeometry());
+  problems.append(StoreWriteMessage(settings));
+  problems.removeAll(QString());
+  if (!problems.isEmpty()) controls::ShowMessage(this, problems.join("\n\n"));
 }
 
 void TSDIAppForm::closeEvent(QCloseEvent* event) {

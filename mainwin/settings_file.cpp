@@ -2,6 +2,9 @@
 
 #include <QDir>
 #include <QStandardPaths>
+#include <charconv>
+#include <cmath>
+#include <optional>
 
 #include "numerics/prefixed_number.h"
 #include "numerics/text_functions.h"
@@ -13,19 +16,38 @@ const QString kVariables = QStringLiteral("Variablen");
 const QString kOptions = QStringLiteral("Options");
 constexpr int kFieldWidth = 6;
 constexpr int kFieldDecimals = 2;
+// What the entry fields can hold: longer texts are not values the program wrote, and a comment
+// beyond a few hundred words only slows the page that shows it.
+constexpr qsizetype kMostNumberChars = 40;
+constexpr qsizetype kMostCommentChars = 1000;
 
-QString NumberText(double value) {
-  return QString::fromStdString(numerics::FormatPrefixedField(kFieldWidth, kFieldDecimals, value));
+bool ReadsBackAs(const std::string& text, double value) {
+  const numerics::ParsedValue parsed = numerics::ParseValueText(text);
+  return parsed.status == numerics::kParseDigitsRead && std::fabs(parsed.value - value) <= 0.01 * std::fabs(value);
 }
 
-double ReadNumber(const IniFile& ini, const QString& key, const QString& fallbackText, double fallback) {
-  const std::string text = ini.ReadString(kVariables, key, fallbackText).toStdString();
-  const numerics::ParsedValue parsed = numerics::ParseValueText(text);
-  return parsed.status == numerics::kParseDigitsRead ? parsed.value : fallback;
+// The prefix field where it reads back as the value. Beyond 1e13 the field's forms read back as
+// other numbers ("1.00E+150" for 1e15), so those values are written in plain exponent form.
+std::optional<QString> NumberText(double value) {
+  if (!std::isfinite(value)) return std::nullopt;
+  std::string text = numerics::FormatPrefixedField(kFieldWidth, kFieldDecimals, value);
+  if (!ReadsBackAs(text, value)) {
+    char plain[32];
+    text.assign(plain, std::to_chars(plain, plain + sizeof plain, value).ptr);
+  }
+  return QString::fromStdString(text);
 }
 
 double ReadNumber(const IniFile& ini, const QString& key, double fallback) {
-  return ReadNumber(ini, key, NumberText(fallback), fallback);
+  const QString text = ini.ReadString(kVariables, key, QString());
+  if (text.size() > kMostNumberChars) return fallback;
+  const numerics::ParsedValue parsed = numerics::ParseValueText(text.toStdString());
+  return parsed.status == numerics::kParseDigitsRead && std::isfinite(parsed.value) ? parsed.value : fallback;
+}
+
+// A value that is not a number keeps the text the file holds.
+void WriteNumber(IniFile& ini, const QString& key, double value) {
+  if (const std::optional<QString> text = NumberText(value)) ini.WriteString(kVariables, key, *text);
 }
 
 bool ReadOption(const IniFile& ini, const QString& key) {
@@ -58,8 +80,8 @@ IniSettings ReadIniSettings(const IniFile& ini) {
   s.fo = ReadNumber(ini, QStringLiteral("fo"), kDefaultFo);
   s.lgnd = ReadNumber(ini, QStringLiteral("Lgnd"), kDefaultLgnd);
   s.area = ReadNumber(ini, QStringLiteral("Area"), kDefaultArea);
-  s.fMultiplier = ReadNumber(ini, QStringLiteral("f Multiplier"), QStringLiteral("1e6"), kDefaultMultiplier);
-  s.comment = UnescapeLineEnds(ini.ReadString(kVariables, QStringLiteral("Comment"), QString()));
+  s.fMultiplier = ReadNumber(ini, QStringLiteral("f Multiplier"), kDefaultMultiplier);
+  s.comment = UnescapeLineEnds(ini.ReadString(kVariables, QStringLiteral("Comment"), QString())).left(kMostCommentChars);
   s.withLgnd = ReadOption(ini, QStringLiteral("With Lgnd"));
   s.jOutput = ReadOption(ini, QStringLiteral("j Output"));
   s.connectPoints = ReadOption(ini, QStringLiteral("Connect Points"));
@@ -67,10 +89,10 @@ IniSettings ReadIniSettings(const IniFile& ini) {
 }
 
 void WriteIniSettings(const IniSettings& s, IniFile& ini) {
-  ini.WriteString(kVariables, QStringLiteral("fo"), NumberText(s.fo));
-  ini.WriteString(kVariables, QStringLiteral("Lgnd"), NumberText(s.lgnd));
-  ini.WriteString(kVariables, QStringLiteral("Area"), NumberText(s.area));
-  ini.WriteString(kVariables, QStringLiteral("f Multiplier"), NumberText(s.fMultiplier));
+  WriteNumber(ini, QStringLiteral("fo"), s.fo);
+  WriteNumber(ini, QStringLiteral("Lgnd"), s.lgnd);
+  WriteNumber(ini, QStringLiteral("Area"), s.area);
+  WriteNumber(ini, QStringLiteral("f Multiplier"), s.fMultiplier);
   ini.WriteString(kVariables, QStringLiteral("Comment"), EscapeLineEnds(s.comment));
   WriteOption(ini, QStringLiteral("With Lgnd"), s.withLgnd);
   WriteOption(ini, QStringLiteral("j Output"), s.jOutput);

@@ -31,8 +31,10 @@ struct IniSettings {
   bool connectPoints = false;
 };
 
-// Absent keys give the built-in values. An option is on only when its text is exactly "Yes",
+// Absent keys, and numbers that are too long for a field or not finite, give the built-in values;
+// the comment is cut to what the page keeps. An option is on only when its text is exactly "Yes",
 // while WriteIniSettings writes "Ja"/"Nein": a value the program wrote reads back as off.
+// WriteIniSettings writes only numbers that read back: one that is not finite keeps the file's text.
 IniSettings ReadIniSettings(const IniFile& ini);
 void WriteIniSettings(const IniSettings& settings, IniFile& ini);
 

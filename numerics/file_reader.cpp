@@ -28,16 +28,29 @@ void ReadPointParameters(TextCursor& in, const std::string& fileName, SParameter
   }
 }
 
+// Tells why the read ended before the file did, unless the record it dropped holds no data or
+// is the last line without a line break, whose point has always been dropped.
+void NoteEarlyStop(std::string_view content, const std::string& fileName, std::size_t lastRecordAt, bool rising,
+                   bool storeFull, ReadNotes& notes) {
+  const std::size_t data = content.find_first_not_of(" \t\r\n", lastRecordAt);
+  if (data == std::string_view::npos || !(storeFull || !rising)) return;
+  const std::string why = rising ? "the store holds " + std::to_string(kMaxPoints) + " points"
+                                 : std::string("the frequency does not rise");
+  notes.push_back(StoppedAtLineNote(content, fileName, data, why));
+}
+
 // Fills set from the file content; returns the highest frequency read (the dropped record's
 // included, as the frequency maximum has always counted it).
-double ParseDataSet(std::string_view content, const std::string& fileName, TwoPortDataSet& set) {
+double ParseDataSet(std::string_view content, const std::string& fileName, TwoPortDataSet& set, ReadNotes& notes) {
   TextCursor in(content);
   set.title = in.ReadLine();
   double highest = 0;
   bool rising = true;
+  std::size_t recordAt = 0;
   int n = 1;
   for (; !in.AtEndOfFile() && n <= kReadCapacity && rising; ++n) {
     const int i = n - 1;
+    recordAt = in.Position();
     set.frequency[i] = ReadFrequencyField(in);
     highest = Max(highest, set.frequency[i]);
     ReadPointParameters(in, fileName, set.points[i]);
@@ -47,6 +60,7 @@ double ParseDataSet(std::string_view content, const std::string& fileName, TwoPo
     }
   }
   set.pointCount = n - 2;
+  if (n > 1) NoteEarlyStop(content, fileName, recordAt, rising, n > kReadCapacity, notes);
   return highest;
 }
 
@@ -60,7 +74,7 @@ std::string PlainReadingNote(const std::string& fileName) {
 // The plain reading reads such files as it always has; the user is told once per load.
 double ReadPlain(std::string_view content, const std::string& fileName, TwoPortDataSet& set, ReadNotes& notes) {
   try {
-    const double highest = ParseDataSet(content, fileName, set);
+    const double highest = ParseDataSet(content, fileName, set, notes);
     if (HasTouchstoneLines(content)) notes.push_back(PlainReadingNote(fileName));
     return highest;
   } catch (ReadFailure& failure) {
@@ -93,8 +107,10 @@ LoadOutcome LoadTwoPortText(DataSetStore& store, std::string_view content, const
                   ? FillDataSetFromTouchstone(content, fileName, choice.z0, *set, notes)
                   : ReadPlain(content, fileName, *set, notes);
   } catch (const ReadFailure& failure) {
-    return {LoadStatus::Unreadable, 0, failure.message, {}};
+    const std::optional<std::string> shape = TextShapeNote(content, fileName);
+    return {LoadStatus::Unreadable, 0, shape ? failure.message + " " + *shape : failure.message, {}};
   }
+  if (std::optional<std::string> shape = TextShapeNote(content, fileName)) notes.insert(notes.begin(), *shape);
   store.sets[static_cast<std::size_t>(store.openCount)] = std::move(*set);
   ++store.openCount;
   store.frequencyMaximum = Max(store.frequencyMaximum, highest);

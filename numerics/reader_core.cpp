@@ -1,5 +1,6 @@
 #include "reader_core.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace numerics {
@@ -9,6 +10,10 @@ constexpr int kMostLeadingBlankReads = 20;
 constexpr int kMostFieldReads = 199;
 
 bool IsMarker(std::optional<char> c) { return c == '!' || c == '#'; }
+
+std::string LineCount(std::ptrdiff_t count) {
+  return std::to_string(count) + (count == 1 ? " line" : " lines");
+}
 
 }  // namespace
 
@@ -58,6 +63,31 @@ bool HasTouchstoneLines(std::string_view content) {
     if (first != std::string_view::npos && IsMarker(line[first])) return true;
   }
   return false;
+}
+
+int LineNumberAt(std::string_view content, std::size_t pos) {
+  const std::size_t end = std::min(pos, content.size());
+  return 1 + static_cast<int>(std::count(content.begin(), content.begin() + static_cast<std::ptrdiff_t>(end), '\n'));
+}
+
+std::string StoppedAtLineNote(std::string_view content, const std::string& fileName, std::size_t pos,
+                              const std::string& why) {
+  const std::size_t lineStart = content.rfind('\n', pos == 0 ? 0 : pos - 1);
+  const std::string_view rest = content.substr(lineStart == std::string_view::npos ? 0 : lineStart + 1);
+  const std::ptrdiff_t lines = std::count(rest.begin(), rest.end(), '\n') + (rest.ends_with('\n') ? 0 : 1);
+  return "File " + fileName + ": stopped at line " + std::to_string(LineNumberAt(content, pos)) + ": " + why + "; " +
+         LineCount(lines) + " not read.";
+}
+
+std::optional<std::string> TextShapeNote(std::string_view content, const std::string& fileName) {
+  if (content.starts_with("\xFF\xFE") || content.starts_with("\xFE\xFF")) {
+    return "File " + fileName + " is UTF-16 text (it starts with a byte-order mark), which is not read as such; save "
+           "it as ASCII or UTF-8 text.";
+  }
+  if (content.find('\n') != std::string_view::npos || content.find('\r') == std::string_view::npos) return std::nullopt;
+  const std::ptrdiff_t breaks = std::count(content.begin(), content.end(), '\r') - (content.ends_with('\r') ? 1 : 0);
+  return "File " + fileName + " ends its lines with a carriage return alone, which is not a line end here: it was "
+         "read as one line; " + LineCount(breaks) + " after the first not read. Save it with LF or CRLF line ends.";
 }
 
 }  // namespace numerics

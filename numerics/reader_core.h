@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,6 +57,17 @@ LineStart ReadLineStart(TextCursor& in);
 // True when a line after the first starts with "!" or "#" (blanks before it allowed): the file
 // looks like a Touchstone file whose option line and comments the plain reading does not apply.
 bool HasTouchstoneLines(std::string_view content);
+
+// The line that holds position pos of content, counted from 1.
+int LineNumberAt(std::string_view content, std::size_t pos);
+
+// "File NAME: stopped at line L: " followed by why, and how many lines from line L on were not read.
+std::string StoppedAtLineNote(std::string_view content, const std::string& fileName, std::size_t pos,
+                              const std::string& why);
+
+// What makes a file's text unreadable as it stands, in one line: UTF-16 text (recognised by its
+// byte-order mark) or lines ended by a carriage return alone. nullopt for ordinary text.
+std::optional<std::string> TextShapeNote(std::string_view content, const std::string& fileName);
 
 // How to switch the Touchstone reading on, in the window and on the command line.
 inline constexpr const char* kTouchstoneSwitchHint =

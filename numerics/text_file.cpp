@@ -50,6 +50,13 @@ bool ReadAll(int fd, std::size_t expectedSize, std::string& content) {
   return true;
 }
 
+// Names what a path that is not a regular file is, so the message tells the user what was given.
+const char* NotRegularReason(mode_t mode) {
+  if (S_ISFIFO(mode)) return "a pipe, not a regular file";
+  if (S_ISCHR(mode) || S_ISBLK(mode)) return "a device, not a regular file";
+  return "not a regular file";
+}
+
 }  // namespace
 
 // One open and one status query: the file's kind is checked on the open file, which does not
@@ -66,7 +73,7 @@ std::optional<std::string> ReadTextFile(const std::string& path, std::string& re
     return std::nullopt;
   }
   if (!S_ISREG(status.st_mode)) {
-    reason = "not a regular file";  // a device or a pipe could be read forever
+    reason = NotRegularReason(status.st_mode);  // a device or a pipe could be read forever
     return std::nullopt;
   }
   std::string content;

@@ -18,12 +18,28 @@ namespace {
 // Below this a stability limit counts as not yet found.
 constexpr double kNoLimit = 1e-6;
 
+// A record the file ends in: ReadReal gives 0 at the end of the file, which must not be taken
+// for a measured number.
+bool EndedBeforeNumber(const numerics::TextCursor& in, std::size_t before) {
+  return in.AtEndOfFile() &&
+         in.Slice(before, in.Position()).find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
 // The pairs follow in the file order S11, S21, S12, S22 as magnitude and angle in degrees.
-void ReadPointParameters(numerics::TextCursor& in, const std::string& path, numerics::TwoPortState& st) {
-  for (numerics::ComplexValue* z : {&st.s.m11, &st.s.m21, &st.s.m12, &st.s.m22}) {
-    const double magnitude = numerics::ReadNumberOrFail(in, path, numerics::kPlainLineContent);
-    *z = numerics::MakePolar(magnitude, numerics::ReadNumberOrFail(in, path, numerics::kPlainLineContent));
+void ReadPointParameters(numerics::TextCursor& in, std::string_view content, const std::string& path,
+                         numerics::TwoPortState& st) {
+  const std::size_t recordAt = in.Position();
+  double numbers[8];
+  for (double& number : numbers) {
+    const std::size_t before = in.Position();
+    number = numerics::ReadNumberOrFail(in, path, numerics::kPlainLineContent);
+    if (EndedBeforeNumber(in, before)) {
+      numerics::FailAtLine(path, numerics::LineNumberAt(content, recordAt),
+                           std::string("the file ends within this record. ") + numerics::kPlainLineContent);
+    }
   }
+  numerics::ComplexValue* parameters[] = {&st.s.m11, &st.s.m21, &st.s.m12, &st.s.m22};
+  for (int i = 0; i < 4; ++i) *parameters[i] = numerics::MakePolar(numbers[2 * i], numbers[2 * i + 1]);
 }
 
 // The figures of the last point at or below fo, with its guarded S-parameters.
@@ -78,7 +94,7 @@ FileFigures ScanSeriesText(std::string_view content, const std::string& path, co
   for (SeriesLine line = ReadSeriesLine(in); line.kind != SeriesLineKind::EndOfFile; line = ReadSeriesLine(in)) {
     if (line.kind == SeriesLineKind::Comment) TakeComment(line.comment, settings, out);
     if (line.kind != SeriesLineKind::Data) continue;
-    ReadPointParameters(in, path, st);
+    ReadPointParameters(in, content, path, st);
     in.SkipLine();
     TakePoint(st, line.frequency * settings.multiplier, settings, analysis, out);
   }
@@ -132,6 +148,13 @@ FileEvaluation EvaluateSeriesText(std::string_view content, const std::string& p
     file.error = failure.message;
     if (settings.reading == numerics::FileReading::Plain && numerics::HasTouchstoneLines(content)) {
       file.error += std::string(" ") + numerics::kTouchstoneSwitchHint;
+    }
+  }
+  if (const std::optional<std::string> shape = numerics::TextShapeNote(content, path)) {
+    if (file.error.empty()) {
+      file.notes.insert(file.notes.begin(), *shape);
+    } else {
+      file.error += " " + *shape;
     }
   }
   return file;

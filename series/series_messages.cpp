@@ -1,5 +1,8 @@
 #include "series_messages.h"
 
+#include <cmath>
+#include <utility>
+
 #include "numerics/prefixed_number.h"
 #include "numerics/text_functions.h"
 #include "numerics/touchstone_options.h"
@@ -9,6 +12,18 @@ namespace series {
 std::string NoOptionLineMessage(const std::string& path, double multiplier) {
   return "File " + path + " has no \"#\" option line to take its frequency unit from; its frequencies are taken in " +
          numerics::FrequencyUnitName(multiplier) + ", the multiplier selected.";
+}
+
+std::string NonFiniteWarning(const std::string& path, const FileFigures& file) {
+  const std::pair<const char*, double> columns[] = {{"I", file.current}, {"fT", file.fT},       {"fmax", file.fmax},
+                                                    {"MAG/MSG", file.magDb}, {"k", file.k}, {"f(k>1)", file.fk}};
+  std::string names;
+  for (const auto& [name, value] : columns) {
+    if (!std::isfinite(value)) names += (names.empty() ? "" : ", ") + std::string(name);
+  }
+  if (names.empty()) return {};
+  return "the row of " + path + " holds values that are not finite numbers (nan or inf) for " + names +
+         "; check the numbers of the file.";
 }
 
 std::string FileValuesText(const FileFigures& file) {

@@ -106,7 +106,7 @@ TEST_F(FiguresCommandTest, TouchstoneOptionAppliesTheOptionLine) {
   EXPECT_NEAR(Fields(first)[10], -10, 1e-8);
   EXPECT_EQ(err_.str(), "");
   ASSERT_EQ(Run({"--figures", path}), 0);
-  EXPECT_EQ(err_.str().rfind("File " + path + " looks like a Touchstone file", 0), 0U) << err_.str();
+  EXPECT_NE(err_.str().find("File " + path + " looks like a Touchstone file"), std::string::npos) << err_.str();
 }
 
 }  // namespace

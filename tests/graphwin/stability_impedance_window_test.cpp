@@ -89,7 +89,7 @@ TEST(FrequencyCursor, AMouseMoveMarksTheFrequencyInEveryOpenWindow) {
   TGRHilfeBox help;
   TXmaxDlg1 axis;
   FrequencyCursor cursor;
-  const GraphDialogs dialogs{&help, &axis, &cursor};
+  const GraphDialogs dialogs{&help, &axis, nullptr, &cursor};
   TFormK stability([&] { return inputs; }, dialogs);
   TFormZ impedance([&] { return inputs; }, dialogs);
   TFormG gain([&] { return inputs; }, dialogs);

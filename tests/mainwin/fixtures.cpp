@@ -1,5 +1,6 @@
 #include "fixtures.h"
 
+#include <QDir>
 #include <QFile>
 #include <QPrinter>
 #include <QRegularExpression>
@@ -45,9 +46,13 @@ QString ReadSettingsFile() {
   return QString::fromUtf8(file.readAll());
 }
 
+// A test may have made either settings file a folder.
 void ResetProgramState() {
   numerics::DataSets() = numerics::DataSetStore{};
-  QFile::remove(mainwin::SettingsFilePath());
+  for (const QString& path : {mainwin::SettingsFilePath(), QSettings().fileName()}) {
+    QDir(path).removeRecursively();
+    QFile::remove(path);
+  }
   QSettings().clear();
 }
 

@@ -7,13 +7,22 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStackedWidget>
 
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <filesystem>
+
 #include "fixtures.h"
+#include "mainwin/file_names.h"
 #include "mainwin/help_boxes.h"
 #include "mainwin/history_list.h"
+#include "mainwin/settings_file.h"
 #include "numerics/data_set.h"
 #include "numerics/prefixed_number.h"
 
@@ -35,18 +44,20 @@ class MainWindowTest : public QObject, mainwin_test::WindowSession {
 
  private slots:
   void init() { Reset(); }
-  void StartupLoadsTheFirstFourArgumentsAndReportsMissingOnes();
+  void StartupLoadsTheFirstFourArgumentsAndTellsAboutTheOthers();
   void StartupWithoutSettingsFileShowsBuiltInValues();
   void StartupFillsEditsFromSettingsFile();
   void StartupChecksOptionOnlyForYes_data();
   void StartupChecksOptionOnlyForYes();
   void ClosingWritesSettingsThatReadBackWithOptionsOff();
   void ClosingKeepsTheRecentFilesAndThePosition();
+  void SettingsThatCannotBeReadOrWrittenAreToldOnceWithTheReason();
   void OutputPagesNeedTwoSeriesFiles_data();
   void OutputPagesNeedTwoSeriesFiles();
   void TabsCarryThePageCaptions();
   void HelpShowsTheBoxOfThePage();
-  void StayInFrontToggles();
+  void ToolsThatStartNothingSayWhatWasTried_data();
+  void ToolsThatStartNothingSayWhatWasTried();
   void ReadTouchstoneFilesIsKeptAndOffersTheAutomaticMultiplier();
   void EveryExitClosesTheWindow_data();
   void EveryExitClosesTheWindow();
@@ -63,18 +74,25 @@ QStringList MainWindowTest::Files(int count) {
   return files;
 }
 
-// A missing argument still counts as one of the four.
-void MainWindowTest::StartupLoadsTheFirstFourArgumentsAndReportsMissingOnes() {
+// A missing argument still counts as one of the four; each that is not a data file is told as
+// what it is, and a name that is not UTF-8 opens the very file it names.
+void MainWindowTest::StartupLoadsTheFirstFourArgumentsAndTellsAboutTheOthers() {
   mainwin_test::MessageLog log;
-  const QStringList files = Files(5);
+  const QStringList files = Files(3);
+  const std::string latin1 = dir_.path().toStdString() + "/f\xE9.s2p";
+  std::filesystem::copy_file(files[0].toStdString(), latin1);
   const QString missing = dir_.filePath("absent.s2p");
-  Start({files[0], missing, files[1], files[2], files[3], files[4]});
-  QCOMPARE(log.Messages(), QStringList({"File " + missing + " is not present!"}));
-  auto* list = Find<QListWidget>("CheckListBox1");
-  QCOMPARE(list->count(), 3);
-  for (int i = 0; i < 3; ++i) QCOMPARE(list->item(i)->text(), files[i]);
-  QCOMPARE(numerics::DataSets().openCount, 3);
-  QCOMPARE(numerics::DataSets().sets[2].pointCount, 5);
+  const QString pipe = dir_.filePath("pipe.s2p");
+  QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  Start({mainwin::DecodeFileName(latin1), missing, dir_.path(), pipe, files[1], files[2]});
+  QCOMPARE(log.Messages(),
+           QStringList({"File " + missing + " is not present!",
+                        "File " + dir_.path() + " cannot be read (Is a directory). Choose an S-parameter data file.",
+                        "File " + pipe + " cannot be read (a pipe, not a regular file). Choose an S-parameter data file.",
+                        "No more than 4 files can be open! Not loaded: " + files[1] + ", " + files[2]}));
+  QCOMPARE(numerics::DataSets().openCount, 1);
+  QCOMPARE(numerics::DataSets().sets[0].pointCount, 3);
+  QCOMPARE(Window().Series().Path(0), latin1);
 }
 
 void MainWindowTest::StartupWithoutSettingsFileShowsBuiltInValues() {
@@ -152,6 +170,25 @@ void MainWindowTest::ClosingKeepsTheRecentFilesAndThePosition() {
   QCOMPARE(Window().pos(), QPoint(123, 77));
 }
 
+// netrix.ini and the store of the recent files as folders: the real reason, once at the start for
+// the store, once at the end for both; netrix.ini is not replaced, since it could not be read.
+void MainWindowTest::SettingsThatCannotBeReadOrWrittenAreToldOnceWithTheReason() {
+  const QString ini = mainwin::SettingsFilePath();
+  const QString store = QSettings().fileName();
+  QVERIFY(QDir().mkpath(ini) && QDir().mkpath(store));
+  mainwin_test::MessageLog log;
+  Start(Files(1));
+  Window().close();
+  QCOMPARE(log.Messages(),
+           QStringList({"The recent files and the window's place could not be read from " + store +
+                            " (Is a directory); the program starts without them.",
+                        "The settings were not saved: " + ini + " cannot be read (Is a directory), and saving would "
+                            "replace what it holds. Move it out of the way to keep the settings next time!\n\n"
+                            "The recent files and the window's place could not be saved to " + store +
+                            " (Is a directory). Check that file and its folder to keep them next time!"}));
+  QVERIFY(QFileInfo(ini).isDir());
+}
+
 // Page 3 is the first output page, page 6 the last.
 void MainWindowTest::OutputPagesNeedTwoSeriesFiles_data() {
   QTest::addColumn<int>("tab");
@@ -200,16 +237,27 @@ void MainWindowTest::HelpShowsTheBoxOfThePage() {
   QVERIFY(!forms_->HilfeBox()->isVisible());
 }
 
-void MainWindowTest::StayInFrontToggles() {
+void MainWindowTest::ToolsThatStartNothingSayWhatWasTried_data() {
+  QTest::addColumn<QString>("item");
+  QTest::addColumn<QString>("message");
+  QTest::newRow("calculator") << "Calculator1" << "\"Calculator\" started nothing: none of gnome-calculator, kcalc,";
+  QTest::newRow("mail") << "EMail1"
+                        << "\"E-Mail to the Author\" started nothing: the desktop has no program that opens mailto:";
+}
+
+// With an empty search path, and no desktop on the test platform, nothing can be started.
+void MainWindowTest::ToolsThatStartNothingSayWhatWasTried() {
+  QFETCH(QString, item);
+  QFETCH(QString, message);
+  const QByteArray path = qgetenv("PATH");
+  const auto restore = qScopeGuard([&] { qputenv("PATH", path); });
+  qputenv("PATH", dir_.path().toLocal8Bit());
   Start();
-  auto* item = Find<QAction>("ImmerimVordergrund1");
-  QCOMPARE(item->text(), QStringLiteral("Always Stay in &Front"));
-  item->trigger();
-  QVERIFY(item->isChecked());
-  QVERIFY(Window().windowFlags() & Qt::WindowStaysOnTopHint);
-  item->trigger();
-  QVERIFY(!item->isChecked());
-  QVERIFY(!(Window().windowFlags() & Qt::WindowStaysOnTopHint));
+  mainwin_test::MessageLog log;
+  Find<QAction>(qPrintable(item))->trigger();
+  QCOMPARE(log.Messages().size(), 1);
+  QVERIFY2(log.Messages().front().startsWith(message) && log.Messages().front().endsWith(", then try again!"),
+           qPrintable(log.Messages().front()));
 }
 
 void MainWindowTest::ReadTouchstoneFilesIsKeptAndOffersTheAutomaticMultiplier() {

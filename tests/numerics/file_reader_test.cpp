@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -55,24 +56,43 @@ struct CountCase {
   const char* name;
   std::string content;
   int points;
+  std::string note;  // what the load tells behind "File PATH"; empty for nothing
 };
 
 class PointCountTest : public FileReaderTest, public testing::WithParamInterface<CountCase> {};
 
-TEST_P(PointCountTest, DropsTheLastRecord) { EXPECT_EQ(Load(GetParam().content).pointCount, GetParam().points); }
+TEST_P(PointCountTest, DropsTheLastRecordAndTellsWhatElseWasLeftOut) {
+  const std::string path = Write("data.s2p", GetParam().content);
+  const LoadOutcome outcome = LoadTwoPortFile(store_, path);
+  ASSERT_EQ(outcome.status, LoadStatus::Loaded) << outcome.message;
+  EXPECT_EQ(store_.sets[0].pointCount, GetParam().points);
+  EXPECT_EQ(outcome.notes, GetParam().note.empty() ? ReadNotes{} : ReadNotes{"File " + path + GetParam().note});
+}
 
-std::string Lines(int count) {
+std::string Lines(int count, char lineEnd = '\n') {
   std::string text = "title\n";
   for (int i = 1; i <= count; ++i) text += Line(std::to_string(i * 1000));
+  std::replace(text.begin(), text.end(), '\n', lineEnd);
   return text;
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Files, PointCountTest,
-    testing::Values(CountCase{"ThreeLines", Lines(3), 3}, CountCase{"NoFinalLineBreak", Lines(3).substr(0, Lines(3).size() - 1), 2},
-                    CountCase{"EmptyFile", "", -1}, CountCase{"ThreeHundredLines", Lines(300), 253},
-                    CountCase{"BlankLinesBetween", "t\n" + Line("1k") + "\n   \n" + Line("2k"), 2},
-                    CountCase{"FallingFrequencyEndsData", "t\n" + Line("3k") + Line("4k") + Line("2k") + Line("5k"), 2}),
+    testing::Values(
+        CountCase{"ThreeLines", Lines(3), 3, ""},
+        CountCase{"NoFinalLineBreak", Lines(3).substr(0, Lines(3).size() - 1), 2, ""},
+        CountCase{"EmptyFile", "", -1, ""},
+        // Record 254 stands on line 255; lines 255 to 301 are left.
+        CountCase{"ThreeHundredLines", Lines(300), 253,
+                  ": stopped at line 255: the store holds 253 points; 47 lines not read."},
+        CountCase{"BlankLinesBetween", "t\n" + Line("1k") + "\n   \n" + Line("2k"), 2, ""},
+        CountCase{"FallingFrequencyEndsData", "t\n" + Line("3k") + Line("4k") + Line("2k") + Line("5k"), 2,
+                  ": stopped at line 4: the frequency does not rise; 2 lines not read."},
+        // The empty record after the last line break is read at 1 GHz, below this sweep: no note.
+        CountCase{"SweepAboveTheEmptyRecord", "t\n" + Line("2G") + Line("3G"), 2, ""},
+        CountCase{"CarriageReturnsAlone", Lines(3, '\r'), -1,
+                  " ends its lines with a carriage return alone, which is not a line end here: it was read as one "
+                  "line; 3 lines after the first not read. Save it with LF or CRLF line ends."}),
     [](const testing::TestParamInfo<CountCase>& info) { return info.param.name; });
 
 TEST_F(FileReaderTest, UnwrapsAnglesAlongTheSweep) {
@@ -145,6 +165,11 @@ TEST_F(FileReaderTest, FailedLoadsLeaveTheStoreAsItWas) {
   EXPECT_EQ(LoadTwoPortFile(store_, folder_.string()).status, LoadStatus::Unreadable);  // a folder
   EXPECT_EQ(LoadTwoPortFile(store_, Write("nul.s2p", std::string("t\n1k \0\x01\x02 3", 10))).status,
             LoadStatus::Unreadable);
+  const std::string utf16 = Write("utf16.s2p", std::string("\xFF\xFEt\0\n\0\x31\0 \0\x32\0\n\0", 14));
+  const LoadOutcome wide = LoadTwoPortFile(store_, utf16);
+  EXPECT_EQ(wide.status, LoadStatus::Unreadable);
+  EXPECT_NE(wide.message.find("File " + utf16 + " is UTF-16 text (it starts with a byte-order mark)"),
+            std::string::npos) << wide.message;
   EXPECT_EQ(store_.openCount, 1);
 }
 
@@ -167,9 +192,12 @@ TEST_F(FileReaderTest, PlainReadingSaysOnceThatAFileLooksLikeTouchstone) {
   const std::string path = Write("ts.s2p", "t\n" + Line("1000") + "! c\n" + Line("2000"));
   const LoadOutcome outcome = LoadTwoPortFile(store_, path);
   EXPECT_EQ(store_.sets[0].frequency[1], 1e9);  // read as it always was
-  ASSERT_EQ(outcome.notes.size(), 1U);
-  EXPECT_EQ(outcome.notes[0].rfind("File " + path + " looks like a Touchstone file", 0), 0U);
-  EXPECT_NE(outcome.notes[0].find(kTouchstoneSwitchHint), std::string::npos);
+  // The "!" record took eight of the next line's nine numbers; the ninth, 10, is read as a
+  // frequency that does not rise.
+  ASSERT_EQ(outcome.notes.size(), 2U);
+  EXPECT_EQ(outcome.notes[0], "File " + path + ": stopped at line 4: the frequency does not rise; 1 line not read.");
+  EXPECT_EQ(outcome.notes[1].rfind("File " + path + " looks like a Touchstone file", 0), 0U);
+  EXPECT_NE(outcome.notes[1].find(kTouchstoneSwitchHint), std::string::npos);
   EXPECT_TRUE(LoadTwoPortFile(store_, Write("plain.s2p", "! title\n" + Line("1k"))).notes.empty());
   const LoadOutcome failed = LoadTwoPortFile(store_, Write("db.s2p", "t\n# GHz DB\n1 -3 x\n"));
   EXPECT_NE(failed.message.find(kTouchstoneSwitchHint), std::string::npos) << failed.message;

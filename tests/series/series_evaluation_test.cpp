@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <tuple>
@@ -166,6 +167,22 @@ TEST(SeriesEvaluation, TouchstoneReadingTakesTheUnitOfTheOptionLine) {
                                                  "from; its frequencies are taken in GHz, the multiplier selected."});
 }
 
+// What the reading cannot take is told; the figures stay what the reading gives.
+TEST(SeriesEvaluation, TellsWhenTheTextIsNotLinesOfAsciiOrUtf8) {
+  std::string carriageReturns = "! Ic=1m\n" + DataLine("1000", kPoints[0]);
+  std::replace(carriageReturns.begin(), carriageReturns.end(), '\n', '\r');
+  const std::pair<std::string, const char*> cases[] = {
+      {carriageReturns, " ends its lines with a carriage return alone"},
+      {std::string("\xFE\xFF\0!\0I\0c\0=\0\x31\0\n", 14), " is UTF-16 text"}};
+  for (const auto& [content, note] : cases) {
+    const FileEvaluation file = EvaluateSeriesText(content, "odd.s2p", Settings(2e9, 1e6));
+    EXPECT_EQ(file.error, "");
+    EXPECT_EQ(file.figures.fT, 0);
+    ASSERT_EQ(file.notes.size(), 1U);
+    EXPECT_EQ(file.notes[0].rfind(std::string("File odd.s2p") + note, 0), 0U) << file.notes[0];
+  }
+}
+
 // Id is read only for the Ic choice, "#" lines count as comments, and a later line overwrites.
 TEST(SeriesEvaluation, ReadsTheCurrentOnlyForTheIcChoice) {
   const std::tuple<const char*, XAxisChoice, double> cases[] = {{"! Id=2m\n", XAxisChoice::CurrentIc, 2e-3},
@@ -232,7 +249,10 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(FailureCase{"Missing", nullptr, " cannot be read (No such file or directory)"},
                     FailureCase{"Folder", "", " cannot be read (Is a directory)"},
                     FailureCase{"NumberWithUnit", "! Ic=1m\n\n1000 0.5 -30 4 100deg 0.1 30 0.4 -20\n",
-                                ", line 3: \"100deg\" is not a number"}),
+                                ", line 3: \"100deg\" is not a number"},
+                    // The missing numbers are not read as zeros.
+                    FailureCase{"CutWithinARecord", "! Ic=1m\n1000 0.5 -30 4 100 0.1\n",
+                                ", line 2: the file ends within this record."}),
     [](const testing::TestParamInfo<FailureCase>& info) { return std::string(info.param.name); });
 
 }  // namespace

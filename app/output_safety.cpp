@@ -1,0 +1,70 @@
+#include "output_safety.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <ostream>
+#include <string_view>
+
+namespace app {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kDataExtensions[] = {".s2p", ".spm"};
+
+std::string LowerExtension(const std::string& path) {
+  std::string extension = fs::path(path).extension().string();
+  std::transform(extension.begin(), extension.end(), extension.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return extension;
+}
+
+// The same file, whatever the names: through links, "./", or another spelling of the folder.
+bool IsOneOf(const std::string& path, const std::vector<std::string>& inputs) {
+  return std::any_of(inputs.begin(), inputs.end(), [&](const std::string& input) {
+    std::error_code error;
+    return fs::equivalent(path, input, error);
+  });
+}
+
+// Read-only by its permissions, also for a user (such as root) who could write it all the same.
+bool IsWriteProtected(const struct stat& status) { return (status.st_mode & S_IWUSR) == 0; }
+
+}  // namespace
+
+std::string RefuseOutput(const std::string& path, const std::vector<std::string>& inputs) {
+  const std::string extension = LowerExtension(path);
+  if (std::find(std::begin(kDataExtensions), std::end(kDataExtensions), extension) != std::end(kDataExtensions)) {
+    return "the output " + path + " ends in " + extension + " like an S-parameter file, and could be a measurement "
+           "(did --out lose its value?); nothing was written. Name an output file of another kind.";
+  }
+  if (IsOneOf(path, inputs)) {
+    return "the output " + path + " is one of the input files; nothing was written. Name another output file.";
+  }
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) return {};
+  if (S_ISDIR(status.st_mode)) return "the output " + path + " is a folder; nothing was written. Name a file.";
+  if (IsWriteProtected(status)) {
+    return "the output " + path + " is write-protected; nothing was written. Name another file, or allow writing "
+           "to it.";
+  }
+  return {};
+}
+
+bool StandardOutputWritten(std::ostream& out, std::ostream& err, const std::string& mode, const std::string& what) {
+  out.flush();
+  if (out) return true;
+  // The error of the write that failed is still the last one: the modes make no further calls that
+  // fail once the stream is bad.
+  const int reason = errno;
+  err << mode << ": " << what << " could not be written to standard output ("
+      << (reason != 0 ? std::strerror(reason) : "the stream failed") << ").\n";
+  return false;
+}
+
+}  // namespace app
