@@ -31,7 +31,7 @@ std::string ParseQ(const std::string& text, RenderOptions& o) {
   return {};
 }
 
-std::string ParseMode(const std::string& text, RenderOptions& o) {
+std::string ParseSParameterMode(const std::string& text, RenderOptions& o) {
   static constexpr std::pair<const char*, SView> kModes[] = {{"smith", SView::Smith},     {"polar", SView::Polar},
                                                              {"cartesian", SView::Cartesian}, {"mag", SView::Magnitude},
                                                              {"db", SView::Decibels},    {"phase", SView::Phase}};
@@ -52,20 +52,75 @@ std::string ParseNumber(const std::string& name, const std::string& text, double
   return {};
 }
 
-std::string ParseCurves(const std::string& text, RenderOptions& o) {
-  o.gainCurves = {false, false, false, false};
+template <typename Choice>
+struct CurveName {
+  const char* name;
+  bool Choice::*box;
+};
+
+using graphwin::plots::GainChoice;
+using graphwin::plots::ImpedanceChoice;
+using graphwin::plots::StabilityChoice;
+
+constexpr CurveName<GainChoice> kGainCurves[] = {
+    {"mag", &GainChoice::mag}, {"u", &GainChoice::mason}, {"mug", &GainChoice::mug}, {"s21", &GainChoice::s21}};
+constexpr CurveName<StabilityChoice> kStabilityCurves[] = {
+    {"k", &StabilityChoice::k}, {"u", &StabilityChoice::u}, {"mu", &StabilityChoice::mu}};
+constexpr CurveName<ImpedanceChoice> kImpedanceCurves[] = {{"port1", &ImpedanceChoice::port1},
+                                                           {"port2", &ImpedanceChoice::port2},
+                                                           {"pi", &ImpedanceChoice::cross},
+                                                           {"image", &ImpedanceChoice::image},
+                                                           {"sym", &ImpedanceChoice::sym}};
+
+// "a, b and c".
+template <typename Choice, std::size_t N>
+std::string NameList(const CurveName<Choice> (&names)[N]) {
+  std::string list;
+  for (std::size_t i = 0; i < N; ++i) list += std::string(i == 0 ? "" : i + 1 == N ? " and " : ", ") + names[i].name;
+  return list;
+}
+
+// The named curves only; an unknown name is the error.
+template <typename Choice, std::size_t N>
+std::string ParseNames(const std::string& text, const CurveName<Choice> (&names)[N], Choice& choice) {
+  Choice chosen{};
+  for (const CurveName<Choice>& name : names) chosen.*name.box = false;
   std::size_t start = 0;
   do {
     const std::size_t comma = text.find(',', start);
-    const std::string name = text.substr(start, comma == std::string::npos ? std::string::npos : comma - start);
-    if (name == "mag") o.gainCurves.mag = true;
-    else if (name == "u") o.gainCurves.mason = true;
-    else if (name == "mug") o.gainCurves.mug = true;
-    else if (name == "s21") o.gainCurves.s21 = true;
-    else return "--curves takes mag, u, mug and s21 joined by commas, not \"" + text + "\"";
+    const std::string word = text.substr(start, comma == std::string::npos ? std::string::npos : comma - start);
+    const auto found = std::find_if(std::begin(names), std::end(names), [&](const auto& n) { return word == n.name; });
+    if (found == std::end(names)) {
+      return "--curves takes " + NameList(names) + " joined by commas, not \"" + text + "\"";
+    }
+    chosen.*found->box = true;
     start = comma == std::string::npos ? comma : comma + 1;
   } while (start != std::string::npos);
+  choice = chosen;
   return {};
+}
+
+std::string ParseCurves(const std::string& text, RenderOptions& o) {
+  if (o.view == kGainView) return ParseNames(text, kGainCurves, o.gainCurves);
+  if (o.view == kStabilityView) return ParseNames(text, kStabilityCurves, o.stabilityCurves);
+  if (o.view == kImpedanceView) return ParseNames(text, kImpedanceCurves, o.impedanceCurves);
+  return {};  // the view is refused once the command line is read
+}
+
+std::string ParseImpedanceMode(const std::string& text, RenderOptions& o) {
+  using graphwin::plots::ImpedanceMode;
+  if (text == "mag") o.impedanceMode = ImpedanceMode::Magnitude;
+  else if (text == "re") o.impedanceMode = ImpedanceMode::Real;
+  else if (text == "q") o.impedanceMode = ImpedanceMode::Q;
+  else return "--mode takes mag, re or q in the impedance view, not \"" + text + "\"";
+  return {};
+}
+
+// The view comes first, so its modes are known here.
+std::string ParseMode(const std::string& text, RenderOptions& o) {
+  if (o.view == kImpedanceView) return ParseImpedanceMode(text, o);
+  if (o.view == kReflectionView || o.view == kTransmissionView) return ParseSParameterMode(text, o);
+  return "--mode belongs to the reflection, transmission and impedance views";
 }
 
 // Handles the option at args[i] (and its value); returns an error text or "".
@@ -75,8 +130,8 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
     o.spline = false;
     return {};
   }
-  const bool gainOption = name == "--curves" || name == "--xlog";
-  o.gainOptionsGiven = o.gainOptionsGiven || gainOption;
+  const bool frequencyOption = name == "--curves" || name == "--xlog";
+  o.frequencyOptionsGiven = o.frequencyOptionsGiven || frequencyOption;
   if (name == "--xlog") {
     o.xlog = true;
     return {};
@@ -109,8 +164,8 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
 std::string CheckSParameterOptions(const RenderOptions& o) {
   const bool reflection = o.view == kReflectionView || o.view == "smith";
   const bool transmission = o.view == kTransmissionView || o.view == "polar";
-  if ((o.mode || o.parameters != "both") && o.view != kReflectionView && o.view != kTransmissionView) {
-    return "--mode and --param belong to the reflection and transmission views";
+  if (o.parameters != "both" && o.view != kReflectionView && o.view != kTransmissionView) {
+    return "--param belongs to the reflection and transmission views";
   }
   if (o.view == kTransmissionView && o.mode == SView::Smith) return "the transmission view has no Smith chart";
   const bool known = o.parameters == "both" || (o.view == kReflectionView ? o.parameters == "s11" || o.parameters == "s22"
@@ -127,7 +182,10 @@ std::string CheckComplete(const RenderOptions& o) {
   if (o.outPath.empty()) return "--out PATH is missing, for example --out smith.png";
   if (o.files.empty()) return "name one to four S-parameter files to draw";
   if (o.files.size() > kMaxRenderFiles) return "no more than 4 files can be drawn at once";
-  if (o.gainOptionsGiven && o.view != kGainView) return "--curves and --xlog belong to the gain view";
+  const bool frequencyView = o.view == kGainView || o.view == kStabilityView || o.view == kImpedanceView;
+  if (o.frequencyOptionsGiven && !frequencyView) {
+    return "--curves and --xlog belong to the gain, stability and impedance views";
+  }
   return CheckSParameterOptions(o);
 }
 

@@ -6,7 +6,9 @@
 
 #include "diagram/smith_chart.h"
 #include "graphwin/plots/gain_plot.h"
+#include "graphwin/plots/impedance_plot.h"
 #include "graphwin/plots/sparameter_plot.h"
+#include "graphwin/plots/stability_plot.h"
 
 // The command line of netrix --render, parsed but not yet checked against the views, the
 // picture formats and the file system.
@@ -17,6 +19,8 @@ inline constexpr int kMaxQArcs = 6;
 inline constexpr int kMinRenderSide = 64;
 inline constexpr int kMaxRenderSide = 10000;
 inline constexpr const char* kGainView = "gain";
+inline constexpr const char* kStabilityView = "stability";
+inline constexpr const char* kImpedanceView = "impedance";
 inline constexpr const char* kReflectionView = "reflection";
 inline constexpr const char* kTransmissionView = "transmission";
 
@@ -28,11 +32,15 @@ struct RenderOptions {
   diagram::ChartKind chart = diagram::ChartKind::Impedance;
   std::vector<double> qValues;
   bool spline = true;
-  // The gain view's: the curves drawn, a logarithmic frequency axis, the CSV file of the curves.
+  // The views against frequency: the curves drawn, the impedance view's mode, a logarithmic
+  // frequency axis, the CSV file of the curves.
   graphwin::plots::GainChoice gainCurves;
+  graphwin::plots::StabilityChoice stabilityCurves;
+  graphwin::plots::ImpedanceChoice impedanceCurves;
+  graphwin::plots::ImpedanceMode impedanceMode = graphwin::plots::ImpedanceMode::Magnitude;
   bool xlog = false;
   std::string dataPath;
-  bool gainOptionsGiven = false;
+  bool frequencyOptionsGiven = false;
   // The reflection and transmission views': the display mode (their first when not given), the
   // parameters ("s11", "s22", "s21", "s12" or "both"), the circles' frequency, the S12 zoom.
   std::optional<graphwin::plots::SView> mode;
@@ -52,8 +60,10 @@ struct ParsedRenderOptions {
 std::string ParseSize(const std::string& text, int& width, int& height);
 
 // args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]
-//       [--curves mag,u,mug,s21] [--xlog] [--data CSV] [--mode M] [--param P] [--circles FREQ]
+//       [--curves NAMES] [--xlog] [--data CSV] [--mode M] [--param P] [--circles FREQ]
 //       [--s12-zoom F] [--touchstone] FILE...
+// where the curve names are the view's: mag,u,mug,s21 (gain), k,u,mu (stability) or
+// port1,port2,pi,image,sym (impedance), and the impedance view's modes mag, re and q.
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
 
 }  // namespace app

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "gain_view.h"
+#include "frequency_views.h"
 #include "graphwin/plots/curve_table.h"
 #include "sparameter_view.h"
 
@@ -22,13 +22,15 @@ std::string TableOf(const RenderInput& input) {
   return SParameterTable(input, View(input));
 }
 
-std::string GainTable(const RenderInput& input) { return graphwin::plots::CurveTableCsv(GainPlotOf(input)); }
+std::string FrequencyTable(const RenderInput& input) { return graphwin::plots::CurveTableCsv(FrequencyPlotOf(input)); }
 
 constexpr RenderView kViews[] = {
     {"smith", DrawView<SmithView>, TableOf<SmithView>},
     {"polar", DrawView<PolarView>, TableOf<PolarView>},
     {"cartesian", DrawView<CartesianView>, TableOf<CartesianView>},
-    {kGainView, DrawGainView, GainTable},
+    {kGainView, DrawFrequencyView, FrequencyTable},
+    {kStabilityView, DrawFrequencyView, FrequencyTable},
+    {kImpedanceView, DrawFrequencyView, FrequencyTable},
     {kReflectionView, DrawView<ReflectionView>, TableOf<ReflectionView>},
     {kTransmissionView, DrawView<TransmissionView>, TableOf<TransmissionView>},
 };

@@ -24,7 +24,7 @@ struct RenderView {
 
 // nullptr when no view has that name.
 const RenderView* FindRenderView(std::string_view name);
-// "smith, polar, cartesian, gain, reflection or transmission", for messages.
+// "smith, polar, cartesian, gain, stability, impedance, reflection or transmission", for messages.
 std::string RenderViewNames();
 
 }  // namespace app

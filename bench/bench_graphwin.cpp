@@ -1,6 +1,7 @@
 // Speed of the graph windows: the gain window's redraw with four files of 253 points at 768 x 576
 // and its opening from "MAG, MSG, ..." until its picture is first painted; the reflection
-// window's redraw with the ZY grid, six constant-Q arcs and the circles over four such files.
+// window's redraw with the ZY grid, six constant-Q arcs and the circles over four such files; the
+// frequency cursor following the mouse across every open window.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QImage>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -65,6 +67,7 @@ class Session {
   }
   mainwin::TSDIAppForm& Main() { return *forms_->SDIAppForm(); }
   graphwin::TFormG& Gain() { return *forms_->FormG(); }
+  graphwin::TGraphForm* Window(graphwin::DiagramWindow window) { return forms_->DiagramWindowOf(window); }
   graphwin::TFormPhi& Reflection() { return *forms_->FormPhi(); }
 
  private:
@@ -145,6 +148,33 @@ void BM_OpenGainWindowToFirstPaint(benchmark::State& state) {
   if (!paint.painted) state.SkipWithError("the window was never painted");
 }
 BENCHMARK(BM_OpenGainWindowToFirstPaint)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// Every graph window that is built opens at 768 x 576 with every curve of the four files checked;
+// the mouse then moves across the gain window's frame a few columns at a time, and each move is
+// painted in every window.
+void BM_MoveFrequencyCursorAllWindows(benchmark::State& state) {
+  Session session(FourFiles());
+  for (int kind = 0; kind < graphwin::kDiagramWindowCount; ++kind) {
+    graphwin::TGraphForm* window = session.Window(static_cast<graphwin::DiagramWindow>(kind));
+    if (window == nullptr) continue;
+    window->resize(768, 576);
+    window->ShowFromMain();
+    for (QCheckBox* box : window->findChildren<QCheckBox*>()) {
+      if (!box->isChecked()) box->click();
+    }
+  }
+  QWidget* image = session.Gain().findChild<QWidget*>("Image");
+  QApplication::processEvents();
+  int column = 80;
+  for (auto _ : state) {
+    column = column + 3 < image->width() - 60 ? column + 3 : 80;
+    const QPointF at(column, image->height() / 2);
+    QMouseEvent move(QEvent::MouseMove, at, image->mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(image, &move);
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(BM_MoveFrequencyCursorAllWindows)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 

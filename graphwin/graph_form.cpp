@@ -3,8 +3,10 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialog>
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -19,6 +21,7 @@
 
 #include "diagram/axis.h"
 #include "diagram/scaling.h"
+#include "frequency_cursor.h"
 #include "graph_image.h"
 #include "grhilfe.h"
 
@@ -81,9 +84,12 @@ TGraphForm::TGraphForm(const char* name, const QString& caption, InputsSource in
   connect(image_, &TDiagramImage::MouseMove, this, &TGraphForm::ImageMouseMove);
   connect(image_, &TDiagramImage::MouseUp, this, &TGraphForm::ImageMouseUp);
   connect(image_, &TDiagramImage::DoubleClick, this, &TGraphForm::ImageDblClick);
+  if (dialogs_.cursor) dialogs_.cursor->Register(*this);
 }
 
-TGraphForm::~TGraphForm() = default;
+TGraphForm::~TGraphForm() {
+  if (dialogs_.cursor) dialogs_.cursor->Unregister(*this);
+}
 
 QAction* TGraphForm::AddAction(QMenu* menu, const char* name, const QString& caption) {
   QAction* action = menu->addAction(caption);
@@ -205,6 +211,15 @@ QToolButton* TGraphForm::AddToolButton(const char* name, int left, const QString
   return button;
 }
 
+QCheckBox* TGraphForm::AddCheckBox(const CheckBoxLook& look, bool checked) {
+  auto* box = new QCheckBox(QString::fromUtf8(look.caption), panel1_);
+  box->setObjectName(look.name);
+  box->setToolTip(tr(look.hint));
+  box->setChecked(checked);
+  box->move(look.left, look.row * kToolBarHeight + (kToolBarHeight - box->sizeHint().height()) / 2);
+  return box;
+}
+
 QWidget* TGraphForm::BuildToolBar() {
   panel1_ = new QFrame(this);
   panel1_->setObjectName("Panel1");
@@ -245,9 +260,17 @@ QWidget* TGraphForm::BuildStatusBar() {
   QFont arial(QStringLiteral("Arial"));
   arial.setPixelSize(13);
   currentPanel_->setFont(arial);
-  auto* layout = new QVBoxLayout(bar);
+  cursorPanel_ = new QLabel(bar);
+  cursorPanel_->setObjectName("CursorPanel");
+  cursorPanel_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+  cursorPanel_->setFont(arial);
+  // As wide as its widest text, so that moving the cursor never lays the status bar out again.
+  cursorPanel_->setFixedWidth(cursorPanel_->fontMetrics().horizontalAdvance(tr("Cursor : f=999.99MHz")) + 8);
+  auto* layout = new QHBoxLayout(bar);
   layout->setContentsMargins(1, 1, 1, 1);
-  layout->addWidget(currentPanel_);
+  layout->setSpacing(1);
+  layout->addWidget(currentPanel_, 1);
+  layout->addWidget(cursorPanel_);
   return bar;
 }
 
@@ -310,6 +333,7 @@ void TGraphForm::Redraw() {
     DrawPicture(canvas);
   }
   image_->ShowPicture(picture_, diagram::CurrentDiagram());
+  if (dialogs_.cursor) ShowCursor(dialogs_.cursor->Frequency());
 }
 
 void TGraphForm::Rescaled() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointF>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -14,6 +15,7 @@
 #include "window_rules.h"
 
 class QAction;
+class QCheckBox;
 class QLabel;
 class QMenu;
 class QPrinter;
@@ -25,16 +27,28 @@ class QToolButton;
 // the curve export and printing. A window adds what it plots, its defaults and its read-out.
 namespace graphwin {
 
+class FrequencyCursor;
 class TDiagramImage;
 class TGRHilfeBox;
 class TQcircle;
 class TXmaxDlg1;
 
-// The dialogs all graph windows share; created after the windows, so filled in later.
+// The dialogs all graph windows share, created after the windows and so filled in later, and
+// the frequency cursor that links the open windows (none: the window stands alone).
 struct GraphDialogs {
   TGRHilfeBox* help = nullptr;
   TXmaxDlg1* axisValue = nullptr;
   TQcircle* qCircle = nullptr;
+  FrequencyCursor* cursor = nullptr;
+};
+
+// A window's check box on the tool bar; row 1 lies below the buttons.
+struct CheckBoxLook {
+  const char* name;
+  int left;
+  const char* caption;
+  const char* hint;
+  int row = 0;
 };
 
 using InputsSource = std::function<plots::GraphInputs()>;
@@ -56,6 +70,8 @@ class TGraphForm : public QMainWindow {
   const QImage& Picture() const;
   // The window's picture drawn afresh at size on any device; the screen's diagram state stays.
   void PaintPicture(QPainter& painter, QSize size);
+  // Marks the frequency on the curves, over the picture, and in the read-out; none clears both.
+  void ShowCursor(std::optional<double> frequency);
 
  protected:
   // Window-specific controls go right of the zoom buttons, at these left positions.
@@ -67,6 +83,7 @@ class TGraphForm : public QMainWindow {
   void InsertScalesSeparator(const char* name);
   // A menu of the window's own, before "&Help".
   QMenu* InsertMenu(const char* name, const QString& title);
+  QCheckBox* AddCheckBox(const CheckBoxLook& look, bool checked);
   // The check marks of x-log and y-log after the scale modes.
   void ShowScaleModes();
   // The printer set-up dialog on the window's printer.
@@ -82,6 +99,8 @@ class TGraphForm : public QMainWindow {
   void Rescaled();
   // Writes a text file whole or not at all; a failure is reported.
   void WriteTextFile(const QString& path, const std::string& text);
+  // The hidden "Save Table" of the gain and stability windows: asks for the file, writes the text.
+  void SaveTable(const std::string& text);
 
   virtual void ComputeCurves() = 0;
   // The ranges, steps, crossing and label counts the window starts with.
@@ -90,11 +109,22 @@ class TGraphForm : public QMainWindow {
   virtual void DrawPicture(diagram::Canvas& canvas) = 0;
   virtual std::string ReadOutText(double x, double y) const = 0;
   virtual Bounds AxisBounds(AxisEnd end) const = 0;
+  // The axis dialog's label for an axis end: "xmax=" and so on.
+  virtual std::string AxisLabel(AxisEnd end) const;
+  // The printed page: the diagram drawn afresh in the picture's proportions, fitted to the page or,
+  // where the window prints its bitmap, as wide as the page.
+  virtual void PrintPage(QPainter& painter, QSize page);
+  // The curves against frequency; null where the x axis is not frequency (a locus). The defaults
+  // below and the frequency cursor take them from here.
+  virtual const plots::FrequencyPlot* FrequencyCurves() const { return nullptr; }
+  // Where a frequency lies on the window's curves, as world points: by default on each curve
+  // against frequency that spans it, between its neighbouring points. A locus window overrides it.
+  virtual std::vector<QPointF> CursorPoints(double frequency) const;
   // What the autoscales look at.
-  virtual std::vector<double> XValues() const = 0;
-  virtual std::vector<double> YValues() const = 0;
+  virtual std::vector<double> XValues() const;
+  virtual std::vector<double> YValues() const;
   // The curves as plotted, as CSV text.
-  virtual std::string CurvesCsv() const = 0;
+  virtual std::string CurvesCsv() const;
   // The message that refuses a logarithmic x axis in the present display; empty to allow it.
   virtual std::string LogXRefusal() const { return {}; }
   // A double click defines the origin also in a polar diagram, instead of beeping there.
@@ -119,6 +149,9 @@ class TGraphForm : public QMainWindow {
   void ImageMouseMove(QPoint at);
   void ImageMouseUp(QPoint at, Qt::MouseButton button);
   void ImageDblClick();
+  // The frequency of the first active file nearest to the mouse: by the column alone where x is
+  // frequency, else by the distance to the cursor's points.
+  std::optional<double> NearestFrequency(QPoint at) const;
   void AskAxisLimit(AxisEnd end, QPoint at);
   double AskValue(const QString& label, double value, Bounds bounds, QPoint position);
   void Ursprungfestlegen1Click();
@@ -154,6 +187,7 @@ class TGraphForm : public QMainWindow {
   QWidget* panel1_ = nullptr;
   TDiagramImage* image_ = nullptr;
   QLabel* currentPanel_ = nullptr;
+  QLabel* cursorPanel_ = nullptr;
   QAction* xlog1_ = nullptr;
   QAction* ylog1_ = nullptr;
 };

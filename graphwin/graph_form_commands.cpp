@@ -70,6 +70,13 @@ void TGraphForm::WriteTextFile(const QString& path, const std::string& text) {
   if (!written.Ok()) controls::ShowMessage(this, QString::fromStdString(written.error));
 }
 
+void TGraphForm::SaveTable(const std::string& text) {
+  const QString path = controls::ChooseSaveFile(
+      this, {"SaveDialogTabelle", tr("Save Table"), tr("Table File (*.tab)"), QStringLiteral("TAB"),
+             QStringLiteral("*.TAB")});
+  if (!path.isEmpty()) WriteTextFile(path, text);
+}
+
 QPrinter& TGraphForm::Printer() {
   if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   return *printer_;
@@ -77,10 +84,6 @@ QPrinter& TGraphForm::Printer() {
 
 void TGraphForm::PrinterSetupClick() { controls::SetUpPrinter(this, Printer()); }
 
-// The diagram alone, without the tool bar and the read-out, in the proportions of the window's
-// picture: fitted to the page, or as wide as the page where the window prints its bitmap. It is
-// drawn again at the printer's resolution through the window's drawing routine rather than
-// stretching the screen's bitmap, so it prints as sharp as the printer can.
 void TGraphForm::Print1Click() {
   QPrinter& printer = Printer();
   if (PrintsBitmap() && printer.printerState() == QPrinter::Active) {
@@ -93,7 +96,14 @@ void TGraphForm::Print1Click() {
     controls::ShowMessage(this, tr("The printer could not be started. Check the printer and print again!"));
     return;
   }
-  const QSize page(printer.width(), printer.height());
+  PrintPage(painter, QSize(printer.width(), printer.height()));
+}
+
+// The diagram alone, without the tool bar and the read-out, in the proportions of the window's
+// picture: fitted to the page, or as wide as the page where the window prints its bitmap. It is
+// drawn again at the printer's resolution through the window's drawing routine rather than
+// stretching the screen's bitmap, so it prints as sharp as the printer can.
+void TGraphForm::PrintPage(QPainter& painter, QSize page) {
   const QSize shape = picture_.isNull() ? QSize(4, 3) : picture_.size();
   if (!PrintsBitmap()) {
     PaintPicture(painter, shape.scaled(page, Qt::KeepAspectRatio));

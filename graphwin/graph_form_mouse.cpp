@@ -8,6 +8,7 @@
 #include "diagram/axis_ends.h"
 #include "diagram/scaling.h"
 #include "diagram/zoom.h"
+#include "frequency_cursor.h"
 #include "graph_form.h"
 #include "graph_image.h"
 #include "numerics/rounding.h"
@@ -65,7 +66,7 @@ void TGraphForm::ImageMouseDown(QPoint at, Qt::MouseButton button) {
 void TGraphForm::AskAxisLimit(AxisEnd end, QPoint at) {
   Diagram& d = diagram::CurrentDiagram();
   double& limit = LimitOf(d, end);
-  limit = AskValue(QString::fromStdString(AxisEndLabel(end)), limit, AxisBounds(end), pos() + at + kDialogOffset);
+  limit = AskValue(QString::fromStdString(AxisLabel(end)), limit, AxisBounds(end), pos() + at + kDialogOffset);
   if (IsXEnd(end)) {
     d.xStep = GridStep(d.xMin, d.xMax);
     diagram::RecomputeXAxis(d);
@@ -109,7 +110,8 @@ void TGraphForm::ImageMouseUp(QPoint at, Qt::MouseButton button) {
   Redraw();
 }
 
-// The cross-hair, or a sizing cursor at an axis end (the last end that holds wins).
+// The cross-hair, or a sizing cursor at an axis end (the last end that holds wins); the frequency
+// cursor follows the mouse in every open window.
 void TGraphForm::ImageMouseMove(QPoint at) {
   const Diagram& drawn = image_->Scale();
   const QPointF world = WorldPoint(drawn, at);
@@ -119,6 +121,8 @@ void TGraphForm::ImageMouseMove(QPoint at) {
     if (IsAtEnd(drawn, end, world.x(), world.y())) shape = IsXEnd(end) ? Qt::SizeHorCursor : Qt::SizeVerCursor;
   }
   image_->setCursor(shape);
+  if (!dialogs_.cursor) return;
+  if (const std::optional<double> frequency = NearestFrequency(at)) dialogs_.cursor->MoveTo(*frequency);
 }
 
 void TGraphForm::ImageDblClick() {

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QWidget>
+#include <vector>
 
 #include "diagram/diagram_state.h"
 
@@ -20,6 +21,9 @@ class TDiagramImage : public QWidget {
   const QImage& Picture() const { return picture_; }
   // The diagram state the picture was drawn with.
   const diagram::Diagram& Scale() const { return scale_; }
+  // Small rings over the picture at these pixels; only their surroundings are painted again.
+  void ShowMarks(std::vector<QPoint> marks);
+  const std::vector<QPoint>& Marks() const { return marks_; }
 
  signals:
   void MouseDown(QPoint at, Qt::MouseButton button);
@@ -37,8 +41,11 @@ class TDiagramImage : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
+  void UpdateAroundMarks();
+
   QImage picture_;
   diagram::Diagram scale_;
+  std::vector<QPoint> marks_;
 };
 
 }  // namespace graphwin

@@ -3,23 +3,14 @@
 #include <QAction>
 #include <QCheckBox>
 
-#include "controls/dialog_hooks.h"
 #include "diagram/axis.h"
-#include "plots/curve_table.h"
 
 namespace graphwin {
 namespace {
 
 using plots::GainBox;
 
-struct BoxLook {
-  const char* name;
-  int left;
-  const char* caption;
-  const char* hint;
-};
-
-constexpr BoxLook kBoxes[] = {
+constexpr CheckBoxLook kBoxes[] = {
     {"CheckBoxMAG", 278, "MAG/MSG", "Maximum available gain and maximum stable gain"},
     {"CheckBoxMason", 368, "Mason", "Mason Gain U"},
     {"CheckBoxMUG", 441, "MUG", "Maximum unilateral gain"},
@@ -40,13 +31,8 @@ TFormG::TFormG(InputsSource inputs, const GraphDialogs& dialogs)
   const plots::GainChoice initial;
   const bool checked[] = {initial.mag, initial.mason, initial.mug, initial.s21};
   for (std::size_t i = 0; i < checkBoxes_.size(); ++i) {
-    auto* box = new QCheckBox(QString::fromUtf8(kBoxes[i].caption), ToolPanel());
-    box->setObjectName(kBoxes[i].name);
-    box->setToolTip(tr(kBoxes[i].hint));
-    box->setChecked(checked[i]);
-    box->move(kBoxes[i].left, (ToolPanel()->height() - box->sizeHint().height()) / 2);
-    connect(box, &QCheckBox::clicked, this, [this, i] { CheckBoxClick(static_cast<GainBox>(i)); });
-    checkBoxes_[i] = box;
+    checkBoxes_[i] = AddCheckBox(kBoxes[i], checked[i]);
+    connect(checkBoxes_[i], &QCheckBox::clicked, this, [this, i] { CheckBoxClick(static_cast<GainBox>(i)); });
   }
   QAction* table = InsertFileItem("WerteinTabellespeichern1", tr("Save &Table"));
   table->setVisible(false);
@@ -75,15 +61,6 @@ Bounds TFormG::AxisBounds(AxisEnd end) const {
   return {end == AxisEnd::XMin && logX ? 1.0 : 0.0, kHighestFrequencyBound};
 }
 
-std::vector<double> TFormG::XValues() const { return plots::AllFrequencies(plot_); }
-std::vector<double> TFormG::YValues() const { return plots::AllValues(plot_); }
-std::string TFormG::CurvesCsv() const { return plots::CurveTableCsv(plot_); }
-
-void TFormG::WerteinTabellespeichern1Click() {
-  const QString path = controls::ChooseSaveFile(
-      this, {"SaveDialogTabelle", tr("Save Table"), tr("Table File (*.tab)"), QStringLiteral("TAB"),
-             QStringLiteral("*.TAB")});
-  if (!path.isEmpty()) WriteTextFile(path, plots::GainTableText(plots::HighestFrequency(plot_)));
-}
+void TFormG::WerteinTabellespeichern1Click() { SaveTable(plots::GainTableText(plots::HighestFrequency(plot_))); }
 
 }  // namespace graphwin

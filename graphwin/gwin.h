@@ -25,9 +25,7 @@ class TFormG : public TGraphForm {
   void DrawPicture(diagram::Canvas& canvas) override;
   std::string ReadOutText(double x, double y) const override;
   Bounds AxisBounds(AxisEnd end) const override;
-  std::vector<double> XValues() const override;
-  std::vector<double> YValues() const override;
-  std::string CurvesCsv() const override;
+  const plots::FrequencyPlot* FrequencyCurves() const override { return &plot_; }
 
  private:
   void CheckBoxClick(plots::GainBox box);

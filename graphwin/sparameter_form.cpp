@@ -79,6 +79,14 @@ std::string TSParameterForm::ReadOutText(double x, double y) const {
 
 Bounds TSParameterForm::AxisBounds(AxisEnd end) const { return IsXEnd(end) ? kXBounds : kYBounds; }
 
+const plots::FrequencyPlot* TSParameterForm::FrequencyCurves() const {
+  return plots::IsLocus(view_) ? nullptr : &plot_.curves;
+}
+
+std::vector<QPointF> TSParameterForm::CursorPoints(double frequency) const {
+  return plots::IsLocus(view_) ? plots::LocusPointsAt(plot_, frequency) : TGraphForm::CursorPoints(frequency);
+}
+
 std::vector<double> TSParameterForm::XValues() const { return plots::XValuesOf(plot_); }
 std::vector<double> TSParameterForm::YValues() const { return plots::YValuesOf(plot_); }
 std::string TSParameterForm::CurvesCsv() const { return plots::SParameterCsv(plot_); }

@@ -41,6 +41,9 @@ class TSParameterForm : public TGraphForm {
   void DrawPicture(diagram::Canvas& canvas) override;
   std::string ReadOutText(double x, double y) const override;
   Bounds AxisBounds(AxisEnd end) const override;
+  // Against frequency the base finds the cursor on the curves; a locus has its own points.
+  const plots::FrequencyPlot* FrequencyCurves() const override;
+  std::vector<QPointF> CursorPoints(double frequency) const override;
   std::vector<double> XValues() const override;
   std::vector<double> YValues() const override;
   std::string CurvesCsv() const override;

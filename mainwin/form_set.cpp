@@ -9,10 +9,12 @@
 #include "file_names.h"
 #include "graphwin/grhilfe.h"
 #include "graphwin/gwin.h"
+#include "graphwin/kwin.h"
 #include "graphwin/phiwin.h"
 #include "graphwin/qkreis.h"
 #include "graphwin/vuwin.h"
 #include "graphwin/xmax_dlg.h"
+#include "graphwin/zwin.h"
 #include "help_boxes.h"
 #include "main_window.h"
 
@@ -31,20 +33,14 @@ struct FormFactories {
     const auto diagram = [&forms](graphwin::DiagramWindow window) { return forms.DiagramWindowOf(window); };
     return forms.sdiAppForm_ = new TSDIAppForm({diagram, box}, arguments);
   }
-  template <typename Form, Form* FormSet::*member, graphwin::DiagramWindow window>
-  static QWidget* CreateDiagramWindow(FormSet& forms, const QStringList&) {
+  // A graph window that draws from the main window's files and options.
+  template <typename Window, graphwin::DiagramWindow kind>
+  static QWidget* CreateGraphForm(FormSet& forms, const QStringList&) {
     TSDIAppForm* main = forms.sdiAppForm_;
-    Form* form = new Form([main] { return main->GraphInputs(); }, forms.graphDialogs_);
-    forms.*member = form;
-    forms.diagramWindows_[static_cast<std::size_t>(window)] = form;
-    return form;
+    auto* window = new Window([main] { return main->GraphInputs(); }, forms.graphDialogs_);
+    forms.diagramWindows_[static_cast<std::size_t>(kind)] = window;
+    return window;
   }
-  static constexpr Factory CreateFormVu =
-      CreateDiagramWindow<graphwin::TFormVu, &FormSet::formVu_, graphwin::DiagramWindow::Transmission>;
-  static constexpr Factory CreateFormPhi =
-      CreateDiagramWindow<graphwin::TFormPhi, &FormSet::formPhi_, graphwin::DiagramWindow::Reflection>;
-  static constexpr Factory CreateFormG =
-      CreateDiagramWindow<graphwin::TFormG, &FormSet::formG_, graphwin::DiagramWindow::Gain>;
   static QWidget* CreateGRHilfeBox(FormSet& forms, const QStringList&) {
     return forms.graphDialogs_.help = new graphwin::TGRHilfeBox;
   }
@@ -64,9 +60,19 @@ struct FormFactories {
     return forms.graphDialogs_.qCircle = new graphwin::TQcircle;
   }
 
-  static constexpr Factory kCreationOrder[] = {CreateSDIAppForm, CreateFormVu,      CreateFormPhi,  CreateFormG,
-                                               CreateGRHilfeBox, CreateXmaxDlg1,    CreateAboutBox, CreateHilfeFOMBox,
-                                               CreateHilfeBox,   CreateQcircle};
+  static constexpr Factory kCreationOrder[] = {
+      CreateSDIAppForm,
+      CreateGraphForm<graphwin::TFormVu, graphwin::DiagramWindow::Transmission>,
+      CreateGraphForm<graphwin::TFormPhi, graphwin::DiagramWindow::Reflection>,
+      CreateGraphForm<graphwin::TFormG, graphwin::DiagramWindow::Gain>,
+      CreateGraphForm<graphwin::TFormK, graphwin::DiagramWindow::Stability>,
+      CreateGraphForm<graphwin::TFormZ, graphwin::DiagramWindow::Impedance>,
+      CreateGRHilfeBox,
+      CreateXmaxDlg1,
+      CreateAboutBox,
+      CreateHilfeFOMBox,
+      CreateHilfeBox,
+      CreateQcircle};
 };
 
 FormSet::FormSet(const QStringList& arguments) {
@@ -84,6 +90,18 @@ graphwin::TGraphForm* FormSet::DiagramWindowOf(graphwin::DiagramWindow window) c
   const auto index = static_cast<std::size_t>(window);
   assert(index < diagramWindows_.size());
   return diagramWindows_[index];
+}
+
+graphwin::TFormVu* FormSet::FormVu() const {
+  return static_cast<graphwin::TFormVu*>(DiagramWindowOf(graphwin::DiagramWindow::Transmission));
+}
+
+graphwin::TFormPhi* FormSet::FormPhi() const {
+  return static_cast<graphwin::TFormPhi*>(DiagramWindowOf(graphwin::DiagramWindow::Reflection));
+}
+
+graphwin::TFormG* FormSet::FormG() const {
+  return static_cast<graphwin::TFormG*>(DiagramWindowOf(graphwin::DiagramWindow::Gain));
 }
 
 void InitialiseApplication() {

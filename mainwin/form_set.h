@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "graphwin/display_mode.h"
+#include "graphwin/frequency_cursor.h"
 #include "graphwin/graph_form.h"
 
 class QWidget;
@@ -40,9 +41,9 @@ class FormSet {
   TAboutBox* AboutBox() const { return aboutBox_; }
   THilfeFOMBox* HilfeFOMBox() const { return hilfeFomBox_; }
   THilfeBox* HilfeBox() const { return hilfeBox_; }
-  graphwin::TFormVu* FormVu() const { return formVu_; }
-  graphwin::TFormPhi* FormPhi() const { return formPhi_; }
-  graphwin::TFormG* FormG() const { return formG_; }
+  graphwin::TFormVu* FormVu() const;
+  graphwin::TFormPhi* FormPhi() const;
+  graphwin::TFormG* FormG() const;
   graphwin::TGRHilfeBox* GRHilfeBox() const { return graphDialogs_.help; }
   graphwin::TXmaxDlg1* XmaxDlg1() const { return graphDialogs_.axisValue; }
   graphwin::TQcircle* Qcircle() const { return graphDialogs_.qCircle; }
@@ -57,10 +58,8 @@ class FormSet {
   TAboutBox* aboutBox_ = nullptr;
   THilfeFOMBox* hilfeFomBox_ = nullptr;
   THilfeBox* hilfeBox_ = nullptr;
-  graphwin::TFormVu* formVu_ = nullptr;
-  graphwin::TFormPhi* formPhi_ = nullptr;
-  graphwin::TFormG* formG_ = nullptr;
-  graphwin::GraphDialogs graphDialogs_;
+  graphwin::FrequencyCursor cursor_;  // before the windows that register with it, so it outlives them
+  graphwin::GraphDialogs graphDialogs_{nullptr, nullptr, nullptr, &cursor_};
   std::array<graphwin::TGraphForm*, graphwin::kDiagramWindowCount> diagramWindows_{};
 };
 

@@ -115,6 +115,10 @@ double HighestFrequency(const FrequencyPlot& plot) {
   return all.empty() ? 0 : *std::max_element(all.begin(), all.end());
 }
 
+std::string PositionText(double frequency) {
+  return "Position : f=" + numerics::FormatPrefixed(2, frequency) + "Hz, ";
+}
+
 void DrawFrequencyPlot(const FrequencyPlot& plot, const PlotLook& look, Canvas& canvas) {
   Diagram& d = diagram::CurrentDiagram();
   diagram::DrawFrame(d, canvas, diagram::GridFrame(d.xLabelEvery, d.yLabelEvery));

@@ -64,6 +64,9 @@ std::vector<double> AllValues(const FrequencyPlot& plot);
 // The highest frequency of the curves; 0 without any point.
 double HighestFrequency(const FrequencyPlot& plot);
 
+// "Position : f=1.00GHz, ", how every read-out against frequency begins.
+std::string PositionText(double frequency);
+
 // The whole picture on the program-wide diagram state, whose modes, ranges, crossing, steps and
 // label counts the window has set; the state is left as drawn.
 void DrawFrequencyPlot(const FrequencyPlot& plot, const PlotLook& look, diagram::Canvas& canvas);

@@ -3,6 +3,8 @@
 #include <array>
 #include <cmath>
 
+#include "figure_curves.h"
+#include "frequency_defaults.h"
 #include "numerics/figures.h"
 #include "numerics/prefixed_number.h"
 #include "numerics/real_functions.h"
@@ -14,11 +16,7 @@ namespace {
 
 using numerics::Decibels;
 
-constexpr double kLowestGainDb = -20;
-constexpr double kHighestGainDb = 40;
-constexpr int kGainLabelEvery = 10;
-// Without a point to scale to, the frequency axis still gets a frame.
-constexpr double kFallbackHighestFrequency = 1e10;
+constexpr FrequencyDefaults kGainDefaults{100, -20, 40, 1, 10};
 
 struct GainFigure {
   bool GainChoice::*box;
@@ -34,35 +32,6 @@ constexpr std::array<GainFigure, 4> kFigures = {{
     {&GainChoice::s21, "|S21|²", "S21sq_dB",
      [](const auto& st, const auto&) { return Decibels(numerics::AbsSqr(st.s.m21)); }},
 }};
-
-// Each file's curves take the colours in an order of their own, so that the same figure of two
-// files is told apart.
-constexpr std::array<diagram::Colour, 4> kColours = {diagram::kRed, diagram::kGreen, diagram::kBlue,
-                                                     diagram::MakeColour(0xC0, 0, 0xC0)};
-
-void AddFileCurves(const GraphInputs& inputs, const GraphFile& file, std::size_t fileIndex, const GainChoice& choice,
-                   FrequencyPlot& plot) {
-  const std::size_t first = plot.curves.size();
-  const std::string prefix = inputs.options.fileNames ? FileName(file) + ", " : std::string();
-  for (std::size_t f = 0; f < kFigures.size(); ++f) {
-    if (!(choice.*kFigures[f].box)) continue;
-    plot.curves.push_back({prefix + kFigures[f].name, std::string(kFigures[f].column) + " (" + FileName(file) + ")",
-                           kColours[(f + fileIndex) % kColours.size()], {}, {}});
-  }
-  numerics::TwoPortState st;
-  numerics::TwoPortFigures figures;
-  const int points = ShownPoints(inputs, file);
-  for (int i = 0; i < points; ++i) {
-    numerics::CopyPointToState(file.set->points[static_cast<std::size_t>(i)], st);
-    numerics::ComputeGainFigures(st, figures);
-    std::size_t curve = first;
-    for (const GainFigure& figure : kFigures) {
-      if (!(choice.*figure.box)) continue;
-      plot.curves[curve].frequency.push_back(file.set->frequency[static_cast<std::size_t>(i)]);
-      plot.curves[curve++].value.push_back(figure.value(st, figures));
-    }
-  }
-}
 
 }  // namespace
 
@@ -83,30 +52,28 @@ std::string GainTitle(const GainChoice& c) {
 
 FrequencyPlot BuildGainPlot(const GraphInputs& inputs, const GainChoice& choice) {
   FrequencyPlot plot{"Gain : MAG, MSG, MUG, etc.", GainTitle(choice), "Gain(f) :", "f in Hz", "Gain in dB", {}, {}};
-  for (std::size_t i = 0; i < inputs.files.size(); ++i) {
-    const GraphFile& file = inputs.files[i];
-    if (!file.active || file.set == nullptr) continue;
-    if (inputs.options.comment && plot.comment.empty()) plot.comment = file.set->title;
-    AddFileCurves(inputs, file, i, choice, plot);
-  }
+  const std::vector<PlottedFigure> chosen = ChosenFigures(kFigures, choice);
+  numerics::TwoPortState st;
+  numerics::TwoPortFigures figures;
+  const auto values = [&](const numerics::SParameters& point, std::vector<double>& out) {
+    numerics::CopyPointToState(point, st);
+    numerics::ComputeGainFigures(st, figures);
+    for (const PlottedFigure& figure : chosen) out.push_back(kFigures[figure.slot].value(st, figures));
+  };
+  AddFigureCurves(inputs, chosen, values, plot);
   return plot;
 }
 
 void SetGainDefaults(diagram::Diagram& d, double highestFrequency) {
-  d.xMax = numerics::NiceStep(highestFrequency > 0 ? highestFrequency : kFallbackHighestFrequency);
-  d.xMin = d.xMax / 100;
-  d.xStep = numerics::NiceStep(d.xMax / 50);
-  d.yMin = kLowestGainDb;
-  d.yMax = kHighestGainDb;
-  d.yStep = 1;
-  d.xCross = d.xMin;
-  d.yCross = 0;
-  d.xLabelEvery = d.yLabelEvery = kGainLabelEvery;
-  d.firstIndex = 0;
+  SetFrequencyDefaults(d, highestFrequency, kGainDefaults);
 }
 
 std::string GainTableText(double f0) {
-  std::string text = "Calculated Values by NETRIX : f/Hz MAG/dB MSG/dB MUG/dB Mason/dB   k\n";
+  return TableText("Calculated Values by NETRIX : f/Hz MAG/dB MSG/dB MUG/dB Mason/dB   k", f0);
+}
+
+std::string TableText(const std::string& header, double f0) {
+  std::string text = header + "\n";
   const double last = numerics::RoundUpOneDigit(2 * f0);
   const double first = numerics::NiceStep(f0 / 100);
   const double step = numerics::NiceStep(first / 3);
@@ -116,7 +83,7 @@ std::string GainTableText(double f0) {
 }
 
 std::string GainReadOut(double x, double y) {
-  return "Position : f=" + numerics::FormatPrefixed(2, x) + "Hz, Gain=" + numerics::FloatTextTrimmed(2, y) + "dB (" +
+  return PositionText(x) + "Gain=" + numerics::FloatTextTrimmed(2, y) + "dB (" +
          numerics::FormatPrefixed(2, std::pow(10.0, y / 10)) + ")";
 }
 

@@ -36,9 +36,10 @@ FrequencyPlot BuildGainPlot(const GraphInputs& inputs, const GainChoice& choice)
 // frequency axis from a hundredth of NiceStep(highest) to it, gains from -20 to 40 dB.
 void SetGainDefaults(diagram::Diagram& d, double highestFrequency);
 
-// The hidden table export as the program has always written it: the header naming the gains,
+// The hidden table export as the program has always written it: the header naming the figures,
 // then only frequencies, from NiceStep(f0 / 100) in steps of NiceStep of a third of that until
 // they pass RoundUpOneDigit(2 f0).
+std::string TableText(const std::string& header, double f0);
 std::string GainTableText(double f0);
 
 // "Position : f=1.00GHz, Gain=3.00dB (2.00)".

@@ -125,6 +125,24 @@ double LargestMagnitude(const SParameterPlot& plot) {
   return largest > 0 ? numerics::RoundUpOneDigit(largest) : 1;
 }
 
+// The point of the file at or below frequency and how far frequency lies towards the next one.
+struct Span {
+  std::size_t index;
+  double fraction;
+};
+
+std::optional<Span> SpanOf(const diagram::LoadedFile& file, double frequency) {
+  const auto& f = file.set->frequency;
+  const auto shown = static_cast<std::size_t>(file.shownPoints);
+  for (std::size_t i = 0; i < shown; ++i) {
+    if (f[i] == frequency) return Span{i, 0};
+    if (i + 1 < shown && (frequency - f[i]) * (frequency - f[i + 1]) < 0) {
+      return Span{i, (frequency - f[i]) / (f[i + 1] - f[i])};
+    }
+  }
+  return std::nullopt;
+}
+
 void SetRoundRange(diagram::Diagram& d, AxisMode mode, double limit) {
   diagram::SetAxisModes(d, mode, mode);
   d.xMin = d.yMin = -limit;
@@ -273,6 +291,23 @@ std::string SParameterCsv(const SParameterPlot& plot) {
     }
   }
   return CurveTableCsv(parts);
+}
+
+std::vector<QPointF> LocusPointsAt(const SParameterPlot& plot, double frequency) {
+  std::vector<QPointF> points;
+  for (const diagram::LoadedFile& file : plot.files) {
+    const std::optional<Span> span = SpanOf(file, frequency);
+    if (!span) continue;
+    for (const int parameter : plot.choice.parameters) {
+      const auto at = [&](std::size_t i) {
+        const numerics::ComplexValue& s = Element(file.set->points[i], parameter);
+        return QPointF(numerics::Re(s), numerics::Im(s)) * Magnification(plot, parameter);
+      };
+      const QPointF first = at(span->index);
+      points.push_back(span->fraction == 0 ? first : first + (at(span->index + 1) - first) * span->fraction);
+    }
+  }
+  return points;
 }
 
 void DrawSParameterPlot(const SParameterPlot& plot, const PlotLook& look, const LocusLook& locus,

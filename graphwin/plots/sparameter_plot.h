@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointF>
 #include <optional>
 #include <string>
 #include <vector>
@@ -58,6 +59,10 @@ std::vector<double> YValuesOf(const SParameterPlot& plot);
 
 // The curves as plotted, as CSV: real and imaginary parts in the loci.
 std::string SParameterCsv(const SParameterPlot& plot);
+
+// Where a frequency lies on each locus, as drawn (S12 magnified in the polar diagram): between
+// the two points of the file that span it, linearly; nothing for a file that does not reach it.
+std::vector<QPointF> LocusPointsAt(const SParameterPlot& plot, double frequency);
 
 // What the reflection window adds to its loci.
 struct LocusLook {

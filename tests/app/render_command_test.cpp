@@ -68,7 +68,7 @@ TEST_P(RenderEveryViewTest, WritesAPictureOfTheAskedSize) {
 INSTANTIATE_TEST_SUITE_P(
     All, RenderEveryViewTest,
     testing::Values(ViewFormat{"smith", ".gif"}, ViewFormat{"polar", ".bmp"}, ViewFormat{"polar", ".jpg"},
-                    ViewFormat{"cartesian", ".PDF"}),
+                    ViewFormat{"cartesian", ".PDF"}, ViewFormat{"impedance", ".png"}),
     [](const testing::TestParamInfo<ViewFormat>& info) {
       return std::string(info.param.view) + "_" + (info.param.extension + 1);
     });
@@ -124,6 +124,23 @@ TEST_F(RenderCommandTest, GainCurvesAreTheFiguresColumns) {
   EXPECT_EQ(rows, 19);
 }
 
+TEST_F(RenderCommandTest, StabilityCurvesAreTheFiguresColumns) {
+  const std::string csv = Path("k.csv");
+  ASSERT_EQ(Run({"--render", "stability", "--curves", "mu,k", "--data", csv, "--out", Path("k.png"), input_}), 0)
+      << err_.str();
+  ASSERT_EQ(Run({"--figures", input_}), 0);
+  std::istringstream figures(out_.str()), table(ReadFile(csv));
+  std::string line, row;
+  std::getline(figures, line);
+  std::getline(table, row);
+  EXPECT_EQ(row, "f_Hz,k (dut.s2p),mu (dut.s2p)");
+  int rows = 0;
+  for (; std::getline(figures, line) && std::getline(table, row); ++rows) {
+    EXPECT_EQ(row, line.substr(0, line.find(',', line.find(',', line.find(',') + 1) + 1)));  // f_Hz,k,mu
+  }
+  EXPECT_EQ(rows, 19);
+}
+
 // The reflection window's |S22| against frequency, as its curve export writes it.
 TEST_F(RenderCommandTest, ReflectionMagnitudeTable) {
   const std::string csv = Path("s22.csv");
@@ -162,7 +179,7 @@ TEST_P(CommandErrorTest, ExitsWithOneAndSaysWhatToDo) {
 INSTANTIATE_TEST_SUITE_P(
     Cases, CommandErrorTest,
     testing::Values(
-        ErrorCase{"render_unknown_view", "--render spider --out % @", "unknown view \"spider\"; use smith, polar, cartesian, gain, reflection or transmission"},
+        ErrorCase{"render_unknown_view", "--render spider --out % @", "unknown view \"spider\"; use smith, polar, cartesian, gain, stability, impedance, reflection or transmission"},
         ErrorCase{"render_unknown_extension", "--render smith --out x.tif @", "end the name in .png, .bmp, .jpg, .gif or .pdf"},
         ErrorCase{"render_missing_file", "--render smith --out % /nonexistent/amp.s2p", "File /nonexistent/amp.s2p is not present!"},
         ErrorCase{"render_no_file", "--render smith --out %", "name one to four S-parameter files"},
@@ -174,7 +191,9 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorCase{"render_seven_q", "--render smith --q 1 --q 2 --q 3 --q 4 --q 5 --q 6 --q 7 --out % @", "at most six --q arcs"},
         ErrorCase{"render_option_without_value", "--render smith @ --out", "--out needs a value"},
         ErrorCase{"render_unknown_option", "--render smith --colour --out % @", "unknown option \"--colour\""},
-        ErrorCase{"render_gain_option_elsewhere", "--render polar --xlog --out % @", "belong to the gain view"},
+        ErrorCase{"render_gain_option_elsewhere", "--render polar --xlog --out % @", "belong to the gain, stability and impedance views"},
+        ErrorCase{"render_mode_elsewhere", "--render stability --mode q --out % @", "--mode belongs to the reflection, transmission and impedance views"},
+        ErrorCase{"render_bad_mode", "--render impedance --mode abs --out % @", "--mode takes mag, re or q"},
         ErrorCase{"render_smith_transmission", "--render transmission --mode smith --out % @", "has no Smith chart"},
         ErrorCase{"render_wrong_param", "--render reflection --param s21 --out % @", "--param takes s11, s22 or both"},
         ErrorCase{"render_circles_elsewhere", "--render polar --circles 2G --out % @", "belong to the reflection view"},

@@ -7,73 +7,20 @@
 #include <QClipboard>
 #include <QDir>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QPrinter>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
-#include <memory>
 
-#include "controls/dialog_hooks.h"
-#include "diagram/scaling.h"
-#include "gain_fixture.h"
-#include "graphwin/graph_image.h"
-#include "graphwin/grhilfe.h"
 #include "graphwin/gwin.h"
-#include "graphwin/xmax_dlg.h"
+#include "window_fixture.h"
 
 namespace graphwin {
 namespace {
 
-// Answers every axis dialog with a typed text and OK, and keeps the labels it was shown with.
-class AxisAnswers {
- public:
-  explicit AxisAnswers(QString typed)
-      : interception_([this, typed](QDialog& dialog) {
-          labels_.append(dialog.findChild<QLabel*>("NamenLabel")->text());
-          QLineEdit* edit = dialog.findChild<QLineEdit*>("Edit");
-          edit->selectAll();
-          QTest::keyClicks(edit, typed);
-          dialog.findChild<QPushButton*>("OKBtn")->click();
-          return dialog.result();
-        }) {}
-  QStringList labels_;
-
- private:
-  controls::ModalInterception interception_;
-};
-
-class GainWindowTest : public testing::Test {
- protected:
-  GainWindowTest() {
-    diagram::CurrentDiagram() = {};
-    inputs_.files = {{set_.get(), "/data/dut.s2p", true}};
-    dialogs_ = {&help_, &axis_};
-    window_ = std::make_unique<TFormG>([this] { return inputs_; }, dialogs_);
-    window_->ShowFromMain();
-  }
-  template <typename T>
-  T* Find(const char* name) {
-    T* found = window_->findChild<T*>(name);
-    if (!found) throw std::runtime_error(std::string("no control ") + name);
-    return found;
-  }
-  TDiagramImage* Image() { return Find<TDiagramImage>("Image"); }
-  QPoint PixelOf(double x, double y) {
-    const diagram::Diagram& d = Image()->Scale();
-    return {diagram::XToPixel(d, x), diagram::YToPixel(d, y)};
-  }
-  const diagram::Diagram& State() { return diagram::CurrentDiagram(); }
-
-  std::unique_ptr<numerics::TwoPortDataSet> set_ = graphwin_test::MakeDataSet(5, 1e9, 1e9);
-  plots::GraphInputs inputs_;
-  TGRHilfeBox help_;
-  TXmaxDlg1 axis_;
-  GraphDialogs dialogs_;
-  std::unique_ptr<TFormG> window_;
-};
+using GainWindowTest = graphwin_test::WindowTest<TFormG>;
+using graphwin_test::AxisAnswers;
 
 TEST_F(GainWindowTest, OpensAtItsDefaultsAgainAfterAZoom) {
   EXPECT_TRUE(window_->isVisible());

@@ -277,8 +277,11 @@ void FrequencyPageTest::GainWindowTakesThePageAsItIs() {
   QCOMPARE(plot.curves[0].frequency.size(), std::size_t{4});  // the display count
   QCOMPARE(plot.comment, std::string("Test device p1.s2p"));
   QVERIFY(!Window().GraphInputs().options.connect);
-  QTest::mouseClick(Find<QPushButton>("SpeedButtonk"), Qt::LeftButton);  // its window comes later
-  QCOMPARE(Window().statusBar()->currentMessage(), QStringLiteral("This diagram window is not available yet."));
+  for (const auto& [button, window] : {std::pair{"SpeedButtonk", graphwin::DiagramWindow::Stability},
+                                      std::pair{"SpeedButtonZ", graphwin::DiagramWindow::Impedance}}) {
+    QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton);
+    QVERIFY(forms_->DiagramWindowOf(window)->isVisible());
+  }
 }
 
 int RunFrequencyPageTests(int argc, char** argv) {

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "controls/dialog_hooks.h"
+#include "diagram/scaling.h"
+#include "gain_fixture.h"
+#include "graphwin/graph_image.h"
+#include "graphwin/grhilfe.h"
+#include "graphwin/xmax_dlg.h"
+
+// A graph window of the fixture's data, shown as the main window shows it, and the helpers its
+// tests drive it with.
+namespace graphwin_test {
+
+// Answers every axis dialog with a typed text and OK, and keeps the labels it was shown with.
+class AxisAnswers {
+ public:
+  explicit AxisAnswers(QString typed)
+      : interception_([this, typed](QDialog& dialog) {
+          labels_.append(dialog.findChild<QLabel*>("NamenLabel")->text());
+          QLineEdit* edit = dialog.findChild<QLineEdit*>("Edit");
+          edit->selectAll();
+          QTest::keyClicks(edit, typed);
+          dialog.findChild<QPushButton*>("OKBtn")->click();
+          return dialog.result();
+        }) {}
+  QStringList labels_;
+
+ private:
+  controls::ModalInterception interception_;
+};
+
+template <typename Window>
+class WindowTest : public testing::Test {
+ protected:
+  WindowTest() {
+    diagram::CurrentDiagram() = {};
+    inputs_.files = {{set_.get(), "/data/dut.s2p", true}};
+    window_ = std::make_unique<Window>([this] { return inputs_; }, dialogs_);
+    window_->ShowFromMain();
+  }
+  template <typename T>
+  T* Find(const char* name) {
+    T* found = window_->template findChild<T*>(name);
+    if (!found) throw std::runtime_error(std::string("no control ") + name);
+    return found;
+  }
+  graphwin::TDiagramImage* Image() { return Find<graphwin::TDiagramImage>("Image"); }
+  QPoint PixelOf(double x, double y) {
+    const diagram::Diagram& d = Image()->Scale();
+    return {diagram::XToPixel(d, x), diagram::YToPixel(d, y)};
+  }
+  const diagram::Diagram& State() { return diagram::CurrentDiagram(); }
+
+  std::unique_ptr<numerics::TwoPortDataSet> set_ = MakeDataSet(5, 1e9, 1e9);
+  graphwin::plots::GraphInputs inputs_;
+  graphwin::TGRHilfeBox help_;
+  graphwin::TXmaxDlg1 axis_;
+  graphwin::GraphDialogs dialogs_{&help_, &axis_};
+  std::unique_ptr<Window> window_;
+};
+
+}  // namespace graphwin_test
