@@ -287,7 +287,7 @@ void TGraphForm::FormActivate() {
   dotState_ = {!inputs_.options.connect, false};
   diagram::Diagram& d = diagram::CurrentDiagram();
   // The cartesian kind: a logarithmic x axis chosen before is kept, polar and Smith are not.
-  if (diagram::IsRoundMode(d.xMode)) diagram::SetAxisModes(d, diagram::AxisMode::Linear, diagram::AxisMode::Linear);
+  if (diagram::IsRoundMode(d.x.mode)) diagram::SetAxisModes(d, diagram::AxisMode::Linear, diagram::AxisMode::Linear);
   ComputeCurves();
   ResetScale(d);
   ShowScaleModes();
@@ -297,8 +297,8 @@ void TGraphForm::FormActivate() {
 
 void TGraphForm::ShowScaleModes() {
   const diagram::Diagram& d = diagram::CurrentDiagram();
-  xlog1_->setChecked(d.xMode == diagram::AxisMode::Log);
-  ylog1_->setChecked(d.yMode == diagram::AxisMode::Log);
+  xlog1_->setChecked(d.x.mode == diagram::AxisMode::Log);
+  ylog1_->setChecked(d.y.mode == diagram::AxisMode::Log);
 }
 
 // Activation is due when the user comes back from another window of the program, but not from
@@ -321,10 +321,10 @@ void TGraphForm::Redraw() {
   if (!activated_ || image_->width() < kSmallestSide || image_->height() < kSmallestSide) return;
   if (requested_) {
     diagram::Diagram& d = diagram::CurrentDiagram();
-    d.xMin = requested_->xMin;
-    d.xMax = requested_->xMax;
-    d.yMin = requested_->yMin;
-    d.yMax = requested_->yMax;
+    d.x.min = requested_->x.min;
+    d.x.max = requested_->x.max;
+    d.y.min = requested_->y.min;
+    d.y.max = requested_->y.max;
   }
   picture_ = QImage(image_->size(), QImage::Format_RGB32);
   {

@@ -28,7 +28,7 @@ std::optional<double> ValueAt(const plots::FrequencyCurve& curve, double frequen
 }
 
 bool IsInRange(const diagram::Diagram& d, const QPointF& p) {
-  return p.x() >= d.xMin && p.x() <= d.xMax && p.y() >= d.yMin && p.y() <= d.yMax;
+  return p.x() >= d.x.min && p.x() <= d.x.max && p.y() >= d.y.min && p.y() <= d.y.max;
 }
 
 QPoint PixelOf(const diagram::Diagram& d, const QPointF& p) {

@@ -57,7 +57,7 @@ std::string TFormG::ReadOutText(double x, double y) const { return plots::GainRe
 // A logarithmic axis cannot start at 0.
 Bounds TFormG::AxisBounds(AxisEnd end) const {
   if (!IsXEnd(end)) return {-kGainBound, kGainBound};
-  const bool logX = diagram::CurrentDiagram().xMode == diagram::AxisMode::Log;
+  const bool logX = diagram::CurrentDiagram().x.mode == diagram::AxisMode::Log;
   return {end == AxisEnd::XMin && logX ? 1.0 : 0.0, kHighestFrequencyBound};
 }
 

@@ -92,7 +92,7 @@ std::vector<double> TSParameterForm::YValues() const { return plots::YValuesOf(p
 std::string TSParameterForm::CurvesCsv() const { return plots::SParameterCsv(plot_); }
 
 std::string TSParameterForm::LogXRefusal() const {
-  switch (diagram::CurrentDiagram().xMode) {
+  switch (diagram::CurrentDiagram().x.mode) {
     case diagram::AxisMode::Smith: return "log not available for Smith chart!";
     case diagram::AxisMode::Polar: return "log not available for polar diagram!";
     default: return {};

@@ -91,7 +91,7 @@ std::string TFormZ::ReadOutText(double x, double y) const { return plots::Impeda
 
 // A logarithmic frequency axis cannot start at 0.
 Bounds TFormZ::AxisBounds(AxisEnd end) const {
-  const bool logX = diagram::CurrentDiagram().xMode == diagram::AxisMode::Log;
+  const bool logX = diagram::CurrentDiagram().x.mode == diagram::AxisMode::Log;
   switch (end) {
     case AxisEnd::XMax: return {1, kHighestFrequencyBound};
     case AxisEnd::XMin: return {logX ? 1.0 : 0.0, kHighestFrequencyBound};
