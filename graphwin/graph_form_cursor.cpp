@@ -80,7 +80,7 @@ void TGraphForm::ShowCursor(std::optional<double> frequency) {
   }
   image_->ShowMarks(std::move(marks));
   const std::string text = frequency ? numerics::TrimLeftText(numerics::FormatPrefixed(2, *frequency)) : "";
-  cursorPanel_->setText(frequency ? tr("Cursor : f=%1Hz").arg(QString::fromStdString(text)) : QString());
+  cursorPanel_->setText(frequency ? QStringLiteral("Cursor : f=%1Hz").arg(QString::fromStdString(text)) : QString());
 }
 
 std::optional<double> TGraphForm::NearestFrequency(QPoint at) const {

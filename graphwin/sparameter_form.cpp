@@ -15,7 +15,7 @@ constexpr Bounds kYBounds{-1000, 1000};
 
 TSParameterForm::TSParameterForm(const char* name, plots::SWindow window, plots::SView startView, InputsSource inputs,
                                  const GraphDialogs& dialogs)
-    : TGraphForm(name, tr("S-Parameters"), std::move(inputs), dialogs),
+    : TGraphForm(name, QStringLiteral("S-Parameters"), std::move(inputs), dialogs),
       window_(window),
       startView_(startView),
       view_(startView),
@@ -33,7 +33,8 @@ QAction* TSParameterForm::AddViewItem(const char* name, const QString& caption, 
 }
 
 void TSParameterForm::AddPrinterSetupItem(const char* name) {
-  connect(InsertFileItem(name, tr("Printer &Setup")), &QAction::triggered, this, &TSParameterForm::PrinterSetupClick);
+  connect(InsertFileItem(name, QStringLiteral("Printer &Setup")), &QAction::triggered, this,
+          &TSParameterForm::PrinterSetupClick);
 }
 
 void TSParameterForm::SetView(plots::SView view) {

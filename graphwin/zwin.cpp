@@ -39,7 +39,7 @@ constexpr double kHighestFrequencyBound = 1e11;
 }  // namespace
 
 TFormZ::TFormZ(InputsSource inputs, const GraphDialogs& dialogs)
-    : TGraphForm("FormZ", tr("Impedance Z(f)"), std::move(inputs), dialogs) {
+    : TGraphForm("FormZ", QStringLiteral("Impedance Z(f)"), std::move(inputs), dialogs) {
   ToolPanel()->setFixedHeight(2 * ToolPanel()->height());
   const plots::ImpedanceChoice initial;
   const bool checked[] = {initial.sym, initial.port1, initial.port2, initial.cross, initial.image};
@@ -48,14 +48,14 @@ TFormZ::TFormZ(InputsSource inputs, const GraphDialogs& dialogs)
     connect(checkBoxes_[i], &QCheckBox::clicked, this, &TFormZ::CheckBoxClick);
   }
   BuildModeItems();
-  connect(InsertFileItem("Druckereinstellung1", tr("Printer &Setup")), &QAction::triggered, this,
+  connect(InsertFileItem("Druckereinstellung1", QStringLiteral("Printer &Setup")), &QAction::triggered, this,
           &TFormZ::PrinterSetupClick);
 }
 
 void TFormZ::BuildModeItems() {
   auto* group = new QActionGroup(this);
   for (const ModeItem& item : kModes) {
-    QAction* action = InsertScalesItem(item.name, tr(item.caption));
+    QAction* action = InsertScalesItem(item.name, QString::fromUtf8(item.caption));
     action->setCheckable(true);
     action->setChecked(item.mode == mode_);
     group->addAction(action);
