@@ -165,6 +165,9 @@ TEST_F(FileReaderTest, FailedLoadsLeaveTheStoreAsItWas) {
   EXPECT_EQ(LoadTwoPortFile(store_, folder_.string()).status, LoadStatus::Unreadable);  // a folder
   EXPECT_EQ(LoadTwoPortFile(store_, Write("nul.s2p", std::string("t\n1k \0\x01\x02 3", 10))).status,
             LoadStatus::Unreadable);
+  const std::string huge = Write("huge.s2p", "t\n");
+  std::filesystem::resize_file(huge, (std::uintmax_t{64} << 20) + 1);  // sparse: nothing is written
+  EXPECT_NE(LoadTwoPortFile(store_, huge).message.find("(larger than 64 MiB"), std::string::npos);
   const std::string utf16 = Write("utf16.s2p", std::string("\xFF\xFEt\0\n\0\x31\0 \0\x32\0\n\0", 14));
   const LoadOutcome wide = LoadTwoPortFile(store_, utf16);
   EXPECT_EQ(wide.status, LoadStatus::Unreadable);
