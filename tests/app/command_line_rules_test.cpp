@@ -67,6 +67,9 @@ INSTANTIATE_TEST_SUITE_P(
                  "ro.png is write-protected"},
         RuleCase{"FullDisk", "{netrix} --series a.s2p > /dev/full", 1, "(No space left on device)"},
         RuleCase{"ClosedStandardOutput", "{netrix} --series a.s2p >&-", 1, "(Bad file descriptor)"},
+        // A file size limit stops the writes part of the way, as a full disk does.
+        RuleCase{"PictureOnAFullDisk", "trap '' XFSZ; ulimit -f 1; {netrix} --render smith --out big.bmp meas.txt", 1,
+                 "\"big.bmp\": File too large"},
         RuleCase{"FiguresToAFullDisk", "{netrix} --figures meas.txt > /dev/full", 1,
                  "the figures could not be written to standard output (No space left on device)"},
         RuleCase{"SeriesFileTooLargeIsNotCut", "truncate -s 65M big.s2p && {netrix} --series big.s2p", 1,
