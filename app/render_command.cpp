@@ -10,8 +10,6 @@
 #include "render_options.h"
 #include "render_output.h"
 #include "atomic_file.h"
-#include "gain_view.h"
-#include "graphwin/plots/curve_table.h"
 #include "render_views.h"
 #include "series_render.h"
 
@@ -31,10 +29,10 @@ std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, Ren
   return {};
 }
 
-// The gain view's curves as the window's "Export Curves as CSV..." writes them.
-std::string WriteCurveTable(const RenderInput& input) {
+// The view's curves as its window's "Export Curves as CSV..." writes them.
+std::string WriteCurveTable(const RenderView& view, const RenderInput& input) {
   std::string error;
-  WriteFileAtomically(input.options.dataPath, graphwin::plots::CurveTableCsv(GainPlotOf(input)), error);
+  WriteFileAtomically(input.options.dataPath, view.table(input), error);
   return error;
 }
 
@@ -75,7 +73,7 @@ int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::o
   });
   if (!written.Ok()) return Fail(err, written.error);
   if (!o.dataPath.empty()) {
-    if (const std::string error = WriteCurveTable(input); !error.empty()) return Fail(err, error);
+    if (const std::string error = WriteCurveTable(*view, input); !error.empty()) return Fail(err, error);
   }
   return 0;
 }

@@ -1,18 +1,19 @@
 #include "render_options.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <string_view>
+#include <utility>
 
 #include "numerics/prefixed_number.h"
-#include "numerics/real_functions.h"
+#include "graphwin/plots/q_table.h"
 #include "touchstone_option.h"
 
 namespace app {
 namespace {
 
-// Q values as the constant-Q dialog takes them: with a unit prefix, limited to this range.
-constexpr double kLowestQ = 0.01;
-constexpr double kHighestQ = 10000;
+using graphwin::plots::SView;
 
 std::string ParseChart(const std::string& text, RenderOptions& o) {
   if (text == "z") o.chart = diagram::ChartKind::Impedance;
@@ -26,7 +27,28 @@ std::string ParseQ(const std::string& text, RenderOptions& o) {
   const numerics::ParsedValue q = numerics::ParseValueText(text);
   if (q.status != numerics::kParseDigitsRead) return "--q needs a number such as 2 or 0.5, not \"" + text + "\"";
   if (o.qValues.size() == kMaxQArcs) return "at most six --q arcs can be drawn";
-  o.qValues.push_back(numerics::ClampValue(kHighestQ, kLowestQ, q.value));
+  o.qValues.push_back(graphwin::plots::LimitedQ(q.value));  // as the constant-Q dialog takes it
+  return {};
+}
+
+std::string ParseMode(const std::string& text, RenderOptions& o) {
+  static constexpr std::pair<const char*, SView> kModes[] = {{"smith", SView::Smith},     {"polar", SView::Polar},
+                                                             {"cartesian", SView::Cartesian}, {"mag", SView::Magnitude},
+                                                             {"db", SView::Decibels},    {"phase", SView::Phase}};
+  for (const auto& [name, view] : kModes) {
+    if (text == name) {
+      o.mode = view;
+      return {};
+    }
+  }
+  return "--mode takes smith, polar, cartesian, mag, db or phase, not \"" + text + "\"";
+}
+
+// A number with a unit prefix, such as 2.4G.
+std::string ParseNumber(const std::string& name, const std::string& text, double& value) {
+  const numerics::ParsedValue parsed = numerics::ParseValueText(text);
+  if (parsed.status != numerics::kParseDigitsRead) return name + " needs a number such as 2.4G or 10, not \"" + text + "\"";
+  value = parsed.value;
   return {};
 }
 
@@ -53,7 +75,7 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
     o.spline = false;
     return {};
   }
-  const bool gainOption = name == "--curves" || name == "--xlog" || name == "--data";
+  const bool gainOption = name == "--curves" || name == "--xlog";
   o.gainOptionsGiven = o.gainOptionsGiven || gainOption;
   if (name == "--xlog") {
     o.xlog = true;
@@ -63,7 +85,9 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
     o.touchstone = true;
     return {};
   }
-  if (name != "--out" && name != "--size" && name != "--chart" && name != "--q" && !gainOption) {
+  constexpr std::string_view kValued[] = {"--out",  "--size",    "--chart",   "--q",       "--curves",
+                                          "--data", "--mode",    "--param",   "--circles", "--s12-zoom"};
+  if (std::find(std::begin(kValued), std::end(kValued), name) == std::end(kValued)) {
     return "unknown option \"" + name + "\"";
   }
   if (i + 1 >= args.size()) return name + " needs a value";
@@ -74,6 +98,28 @@ std::string ParseOption(const std::vector<std::string>& args, std::size_t& i, Re
   if (name == "--q") return ParseQ(value, o);
   if (name == "--curves") return ParseCurves(value, o);
   if (name == "--data") o.dataPath = value;
+  if (name == "--mode") return ParseMode(value, o);
+  if (name == "--param") o.parameters = value;
+  if (name == "--circles") return ParseNumber(name, value, o.circlesFrequency.emplace());
+  if (name == "--s12-zoom") return ParseNumber(name, value, o.s12Zoom);
+  return {};
+}
+
+// The options of the reflection and transmission views, against the view they were given for.
+std::string CheckSParameterOptions(const RenderOptions& o) {
+  const bool reflection = o.view == kReflectionView || o.view == "smith";
+  const bool transmission = o.view == kTransmissionView || o.view == "polar";
+  if ((o.mode || o.parameters != "both") && o.view != kReflectionView && o.view != kTransmissionView) {
+    return "--mode and --param belong to the reflection and transmission views";
+  }
+  if (o.view == kTransmissionView && o.mode == SView::Smith) return "the transmission view has no Smith chart";
+  const bool known = o.parameters == "both" || (o.view == kReflectionView ? o.parameters == "s11" || o.parameters == "s22"
+                                                                           : o.parameters == "s21" || o.parameters == "s12");
+  if (!known) return "--param takes s11, s22 or both in the reflection view and s21, s12 or both in the transmission view";
+  if ((o.circlesFrequency || o.chart != diagram::ChartKind::Impedance || !o.qValues.empty()) && !reflection) {
+    return "--chart, --q and --circles belong to the reflection view";
+  }
+  if (o.s12Zoom != 1 && !transmission) return "--s12-zoom belongs to the transmission view";
   return {};
 }
 
@@ -81,8 +127,8 @@ std::string CheckComplete(const RenderOptions& o) {
   if (o.outPath.empty()) return "--out PATH is missing, for example --out smith.png";
   if (o.files.empty()) return "name one to four S-parameter files to draw";
   if (o.files.size() > kMaxRenderFiles) return "no more than 4 files can be drawn at once";
-  if (o.gainOptionsGiven && o.view != kGainView) return "--curves, --xlog and --data belong to the gain view";
-  return {};
+  if (o.gainOptionsGiven && o.view != kGainView) return "--curves and --xlog belong to the gain view";
+  return CheckSParameterOptions(o);
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "diagram/smith_chart.h"
 #include "graphwin/plots/gain_plot.h"
+#include "graphwin/plots/sparameter_plot.h"
 
 // The command line of netrix --render, parsed but not yet checked against the views, the
 // picture formats and the file system.
@@ -15,6 +17,8 @@ inline constexpr int kMaxQArcs = 6;
 inline constexpr int kMinRenderSide = 64;
 inline constexpr int kMaxRenderSide = 10000;
 inline constexpr const char* kGainView = "gain";
+inline constexpr const char* kReflectionView = "reflection";
+inline constexpr const char* kTransmissionView = "transmission";
 
 struct RenderOptions {
   std::string view;
@@ -29,6 +33,12 @@ struct RenderOptions {
   bool xlog = false;
   std::string dataPath;
   bool gainOptionsGiven = false;
+  // The reflection and transmission views': the display mode (their first when not given), the
+  // parameters ("s11", "s22", "s21", "s12" or "both"), the circles' frequency, the S12 zoom.
+  std::optional<graphwin::plots::SView> mode;
+  std::string parameters = "both";
+  std::optional<double> circlesFrequency;
+  double s12Zoom = 1;
   bool touchstone = false;  // read the files as Touchstone files
   std::vector<std::string> files;
 };
@@ -42,7 +52,8 @@ struct ParsedRenderOptions {
 std::string ParseSize(const std::string& text, int& width, int& height);
 
 // args: VIEW --out PATH [--size WxH] [--chart z|y|zy] [--q Q]... [--no-spline]
-//       [--curves mag,u,mug,s21] [--xlog] [--data CSV] [--touchstone] FILE...
+//       [--curves mag,u,mug,s21] [--xlog] [--data CSV] [--mode M] [--param P] [--circles FREQ]
+//       [--s12-zoom F] [--touchstone] FILE...
 ParsedRenderOptions ParseRenderOptions(const std::vector<std::string>& args);
 
 }  // namespace app

@@ -1,32 +1,36 @@
 #include "render_views.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iterator>
 
-#include "diagram/sparameter_views.h"
 #include "gain_view.h"
+#include "graphwin/plots/curve_table.h"
+#include "sparameter_view.h"
 
 namespace app {
 namespace {
 
-diagram::SParameterScene SceneOf(const RenderInput& input) {
-  const RenderOptions& o = input.options;
-  diagram::SParameterScene scene{input.sets, {}, o.chart, o.qValues, o.spline};
-  for (const std::string& file : o.files) scene.names.push_back(std::filesystem::path(file).filename().string());
-  return scene;
+using ViewOf = SParameterView (*)(const RenderInput& input);
+
+template <ViewOf View>
+void DrawView(const RenderInput& input, diagram::Canvas& canvas) {
+  DrawSParameterView(input, View(input), canvas);
 }
 
-template <void (*Draw)(const diagram::SParameterScene&, diagram::Canvas&)>
-void DrawScene(const RenderInput& input, diagram::Canvas& canvas) {
-  Draw(SceneOf(input), canvas);
+template <ViewOf View>
+std::string TableOf(const RenderInput& input) {
+  return SParameterTable(input, View(input));
 }
+
+std::string GainTable(const RenderInput& input) { return graphwin::plots::CurveTableCsv(GainPlotOf(input)); }
 
 constexpr RenderView kViews[] = {
-    {"smith", DrawScene<diagram::DrawSmithView>},
-    {"polar", DrawScene<diagram::DrawPolarView>},
-    {"cartesian", DrawScene<diagram::DrawCartesianView>},
-    {kGainView, DrawGainView},
+    {"smith", DrawView<SmithView>, TableOf<SmithView>},
+    {"polar", DrawView<PolarView>, TableOf<PolarView>},
+    {"cartesian", DrawView<CartesianView>, TableOf<CartesianView>},
+    {kGainView, DrawGainView, GainTable},
+    {kReflectionView, DrawView<ReflectionView>, TableOf<ReflectionView>},
+    {kTransmissionView, DrawView<TransmissionView>, TableOf<TransmissionView>},
 };
 
 }  // namespace

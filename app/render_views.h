@@ -19,11 +19,12 @@ struct RenderInput {
 struct RenderView {
   const char* name;
   void (*draw)(const RenderInput& input, diagram::Canvas& canvas);
+  std::string (*table)(const RenderInput& input);  // the curves as CSV, for --data
 };
 
 // nullptr when no view has that name.
 const RenderView* FindRenderView(std::string_view name);
-// "smith, polar, cartesian or gain", for messages.
+// "smith, polar, cartesian, gain, reflection or transmission", for messages.
 std::string RenderViewNames();
 
 }  // namespace app

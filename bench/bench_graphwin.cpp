@@ -1,9 +1,13 @@
-// Speed of the gain window: its redraw with four files of 253 points at 768 x 576, and opening it
-// from "MAG, MSG, ..." with a file loaded until its picture is first painted.
+// Speed of the graph windows: the gain window's redraw with four files of 253 points at 768 x 576
+// and its opening from "MAG, MSG, ..." until its picture is first painted; the reflection
+// window's redraw with the ZY grid, six constant-Q arcs and the circles over four such files.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QAction>
 #include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QImage>
@@ -16,8 +20,10 @@
 #include <fstream>
 #include <string>
 
+#include "controls/dialog_hooks.h"
 #include "controls/message_box.h"
 #include "graphwin/gwin.h"
+#include "graphwin/phiwin.h"
 #include "mainwin/form_set.h"
 #include "mainwin/main_window.h"
 #include "numerics/data_set.h"
@@ -59,6 +65,7 @@ class Session {
   }
   mainwin::TSDIAppForm& Main() { return *forms_->SDIAppForm(); }
   graphwin::TFormG& Gain() { return *forms_->FormG(); }
+  graphwin::TFormPhi& Reflection() { return *forms_->FormPhi(); }
 
  private:
   QTemporaryDir configuration_;
@@ -83,6 +90,29 @@ void BM_RedrawGainWindowFourFiles768x576(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_RedrawGainWindowFourFiles768x576)->Arg(1)->Arg(4)->ArgName("curves")->Unit(benchmark::kMillisecond);
+
+void BM_RedrawReflectionWindowZyQCircles768x576(benchmark::State& state) {
+  Session session(FourFiles());
+  session.Main().findChild<QPushButton*>("SpeedButton1")->click();
+  graphwin::TFormPhi& window = session.Reflection();
+  window.findChild<QAction*>("ZYChart")->trigger();
+  int typed = 0;
+  const controls::ModalInterception answers([&](QDialog& dialog) {
+    dialog.findChild<QLineEdit*>("Edit1")->setText(QString::number(++typed));
+    dialog.findChild<QPushButton*>("OKBtn")->click();
+    return dialog.result();
+  });
+  for (int i = 0; i < 6; ++i) window.findChild<QAction*>("constantQ1")->trigger();
+  window.findChild<QAction*>("StabilityCircles1")->trigger();
+  for (auto _ : state) {
+    QImage picture(768, 576, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    window.PaintPicture(painter, picture.size());
+    benchmark::DoNotOptimize(picture.constBits());
+  }
+  if (window.QTable().Count() != 6) state.SkipWithError("the six Q arcs were not stored");
+}
+BENCHMARK(BM_RedrawReflectionWindowZyQCircles768x576)->Unit(benchmark::kMillisecond);
 
 class FirstPaint : public QObject {
  public:

@@ -11,6 +11,7 @@ TStringAlignGrid::TStringAlignGrid(int columns, int rows, QWidget* parent)
   horizontalHeader()->hide();
   verticalHeader()->hide();
   setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setWordWrap(false);  // one line per cell: a wrapped text would lose its end below the row
   setSelectionMode(QAbstractItemView::SingleSelection);
 }
 
@@ -48,7 +49,7 @@ void TStringAlignGrid::SetFixedRows(int rows) {
   }
 }
 
-void TStringAlignGrid::SetCells(int column, int row, const QString& text) {
+void TStringAlignGrid::SetCells(int column, int row, const QString& text, const QString& hint) {
   assert(column >= 0 && column < columnCount() && row >= 0 && row < rowCount());
   QTableWidgetItem* cell = item(row, column);
   if (!cell) {
@@ -57,6 +58,7 @@ void TStringAlignGrid::SetCells(int column, int row, const QString& text) {
     setItem(row, column, cell);
   }
   cell->setText(text);
+  cell->setToolTip(hint);
 }
 
 QString TStringAlignGrid::Cells(int column, int row) const {

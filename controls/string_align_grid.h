@@ -20,7 +20,8 @@ class TStringAlignGrid : public QTableWidget {
   void SetDefaultRowHeight(int pixels);
   void SetFixedRows(int rows);
 
-  void SetCells(int column, int row, const QString& text);
+  // The hint shows as the cell's tool tip; an empty one removes it.
+  void SetCells(int column, int row, const QString& text, const QString& hint = QString());
   QString Cells(int column, int row) const;
   void ClearRow(int row);
 

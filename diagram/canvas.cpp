@@ -6,6 +6,7 @@
 #include <QPen>
 #include <QRectF>
 #include <QString>
+#include <QTransform>
 
 #include "fonts.h"
 
@@ -117,6 +118,10 @@ void Canvas::Arc(double left, double top, double right, double bottom, double st
   painter_.restore();
 }
 
+void Canvas::Hatch(const QPainterPath& region, Colour colour) {
+  painter_.fillPath(region, QBrush(ToQColor(colour), Qt::BDiagPattern));
+}
+
 void Canvas::TextOut(int x, int y, std::string_view text) {
   painter_.save();
   painter_.setPen(ToQColor(fontColour_));
@@ -124,6 +129,9 @@ void Canvas::TextOut(int x, int y, std::string_view text) {
   if (font_.orientation != 0) painter_.rotate(-font_.orientation / 10.0);
   painter_.drawText(QPointF(0, metrics_.ascent()), ToQString(text));
   painter_.restore();
+  QTransform turn;
+  turn.translate(x, y).rotate(-font_.orientation / 10.0);
+  writtenTexts_.push_back(turn.mapRect(QRect(0, 0, TextWidth(text), TextHeight(text))));
 }
 
 int Canvas::TextWidth(std::string_view text) const { return metrics_.horizontalAdvance(ToQString(text)); }

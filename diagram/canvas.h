@@ -2,9 +2,12 @@
 
 #include <QFont>
 #include <QFontMetrics>
+#include <QPainterPath>
 #include <QPoint>
+#include <QRect>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "colour.h"
 
@@ -59,12 +62,16 @@ class Canvas {
   // Part of the ellipse in the box, counter-clockwise on the screen from startDegrees (0 is the
   // right-hand end) over spanDegrees; never filled.
   void Arc(double left, double top, double right, double bottom, double startDegrees, double spanDegrees);
+  // Diagonal hatching in the colour over the region, without an outline.
+  void Hatch(const QPainterPath& region, Colour colour);
 
   // (x, y) is the top-left corner of the text, or the corner it turns about when rotated.
   void TextOut(int x, int y, std::string_view text);
   int TextWidth(std::string_view text) const;
   // Every text of one font is as high as the font.
   int TextHeight(std::string_view text) const;
+  // Where the texts written so far lie, so that a name placed later can keep clear of them.
+  const std::vector<QRect>& WrittenTexts() const { return writtenTexts_; }
 
   // Drawing stays inside the rectangle until ClearClip.
   void SetClipRect(int left, int top, int right, int bottom);
@@ -86,6 +93,7 @@ class Canvas {
   QFont qfont_;
   QFontMetrics metrics_;
   QPoint position_;
+  std::vector<QRect> writtenTexts_;
 };
 
 }  // namespace diagram

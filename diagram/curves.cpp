@@ -1,9 +1,9 @@
 #include "curves.h"
 
-#include <algorithm>
 #include <cassert>
 #include <cmath>
 
+#include "curve_names.h"
 #include "scaling.h"
 
 namespace diagram {
@@ -20,6 +20,12 @@ Pixel PixelOf(const Diagram& d, std::span<const double> x, std::span<const doubl
 
 bool ArraysHold(std::span<const double> x, std::span<const double> y, int count) {
   return count >= 0 && static_cast<std::size_t>(count) <= x.size() && static_cast<std::size_t>(count) <= y.size();
+}
+
+}  // namespace
+
+bool IsStrictlyInside(const Diagram& d, int column, int row) {
+  return column > d.pixLeft && column < d.pixRight && row > d.pixTop && row < d.pixBottom;
 }
 
 void DrawMarker(Canvas& c, std::uint8_t kind, int x, int y, int s) {
@@ -43,12 +49,6 @@ void DrawMarker(Canvas& c, std::uint8_t kind, int x, int y, int s) {
       }
       break;
   }
-}
-
-}  // namespace
-
-bool IsStrictlyInside(const Diagram& d, int column, int row) {
-  return column > d.pixLeft && column < d.pixRight && row > d.pixTop && row < d.pixBottom;
 }
 
 int MarkerSize(const Diagram& d) { return static_cast<int>(std::nearbyint((d.pixRight + d.pixBottom) / 500.0 + 1)); }
@@ -95,11 +95,7 @@ void DrawCurveWithText(const Diagram& d, std::span<const double> x, std::span<co
   DrawCurve(d, x, y, count, canvas);
   if (count <= d.firstIndex) return;
   const Pixel p = PixelOf(d, x, y, d.firstIndex);
-  const int width = canvas.TextWidth(text);
-  // A curve that starts at the rim of the picture keeps its name readable.
-  const int left = std::clamp(textLeft ? p.column - width : p.column, 0, std::max(0, canvas.Width() - width));
-  const int top = std::clamp(p.row, 0, std::max(0, canvas.Height() - canvas.TextHeight(text)));
-  canvas.TextOut(left, top, text);
+  WriteCurveName(canvas, p.column, p.row, textLeft, text);
 }
 
 }  // namespace diagram

@@ -22,6 +22,9 @@ bool IsStrictlyInside(const Diagram& d, int column, int row);
 // Marker size in pixels; markers grow with the picture.
 int MarkerSize(const Diagram& d);
 
+// One marker of the kind with its point at (x, y), s pixels in size.
+void DrawMarker(Canvas& canvas, std::uint8_t kind, int x, int y, int s);
+
 // A polyline whose segments into and out of a point on or beyond the frame's edge are left out.
 void DrawCurve(const Diagram& d, std::span<const double> x, std::span<const double> y, int count, Canvas& canvas);
 
@@ -30,8 +33,8 @@ void DrawMarkers(const Diagram& d, std::span<const double> x, std::span<const do
                  int count, Canvas& canvas);
 
 // DrawCurve, then the text at the pixel of the curve's first point: starting there, or ending
-// there when textLeft is set (for curves that start near the right-hand edge); moved inward
-// where it would leave the picture.
+// there when textLeft is set (for curves that start near the right-hand edge); moved where it
+// would leave the picture or cover a text written before (see WriteCurveName).
 void DrawCurveWithText(const Diagram& d, std::span<const double> x, std::span<const double> y, bool textLeft,
                        int count, Canvas& canvas, std::string_view text);
 

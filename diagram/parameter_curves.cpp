@@ -5,6 +5,7 @@
 #include <cassert>
 
 #include "axes.h"
+#include "curve_names.h"
 #include "curves.h"
 #include "numerics/complex_value.h"
 #include "scaling.h"
@@ -29,9 +30,10 @@ const numerics::ComplexValue& Element(const numerics::SParameters& p, int parame
   return p.s[row][column];
 }
 
-Locus LocusOf(const numerics::TwoPortDataSet& set, int parameterIndex, double magnification) {
+Locus LocusOf(const LoadedFile& file, int parameterIndex, double magnification) {
+  const numerics::TwoPortDataSet& set = *file.set;
   Locus locus;
-  locus.count = std::clamp(set.pointCount, 0, kSplineMaxPoints);
+  locus.count = std::clamp(std::min(set.pointCount, file.shownPoints), 0, kSplineMaxPoints);
   for (std::size_t i = 0; i < static_cast<std::size_t>(locus.count); ++i) {
     const numerics::ComplexValue& z = Element(set.points[i], parameterIndex);
     locus.re[i] = numerics::Re(z) * magnification;
@@ -54,17 +56,18 @@ void Smooth(Locus& locus) {
 
 void DrawFile(const Diagram& d, Canvas& canvas, const LoadedFile& file, int parameterIndex,
               const ParameterCurveOptions& options) {
-  Locus locus = LocusOf(*file.set, parameterIndex, options.magnification);
+  Locus locus = LocusOf(file, parameterIndex, options.magnification);
   if (locus.count < 1) return;
   const std::string label = ParameterLabel(parameterIndex, options.shortLabels);
   SetDrawColour(file.colour, canvas);
   if (locus.count == 1) {
-    canvas.TextOut(XToPixel(d, locus.re[0]), YToPixel(d, locus.im[0]), "Start" + label);
+    WriteCurveName(canvas, XToPixel(d, locus.re[0]), YToPixel(d, locus.im[0]), false, "Start" + label);
     return;
   }
   if (options.markPoints) DrawMarkers(d, locus.re, locus.im, kMarkerCross, locus.count, canvas);
-  if (options.spline) Smooth(locus);
-  DrawCurveWithText(d, locus.re, locus.im, options.textLeft, locus.count, canvas, file.name + label);
+  if (options.connect && options.spline) Smooth(locus);
+  DrawCurveWithText(d, locus.re, locus.im, options.textLeft, options.connect ? locus.count : 1, canvas,
+                    file.name + label);
 }
 
 }  // namespace

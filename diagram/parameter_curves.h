@@ -25,12 +25,14 @@ struct LoadedFile {
   std::string name;  // what the curve is called, usually the file name
   bool show = true;
   Colour colour = kBlack;
+  int shownPoints = numerics::kMaxPoints;  // the first points of the set that are drawn
 };
 
 struct ParameterCurveOptions {
   double magnification = 1;  // real and imaginary part are multiplied by it
   bool spline = true;
   bool markPoints = true;  // diagonal crosses at the measured points
+  bool connect = true;     // without it only the crosses and the name are drawn
   bool shortLabels = false;
   bool textLeft = false;  // names end at the first point instead of starting there
 };

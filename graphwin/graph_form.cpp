@@ -134,6 +134,24 @@ QAction* TGraphForm::InsertFileItem(const char* name, const QString& caption) {
   return action;
 }
 
+QAction* TGraphForm::InsertScalesItem(const char* name, const QString& caption) {
+  auto* action = new QAction(caption, scales1_);
+  action->setObjectName(name);
+  scales1_->insertAction(firstScalesItem_, action);
+  return action;
+}
+
+void TGraphForm::InsertScalesSeparator(const char* name) {
+  scales1_->insertSeparator(firstScalesItem_)->setObjectName(name);
+}
+
+QMenu* TGraphForm::InsertMenu(const char* name, const QString& title) {
+  auto* menu = new QMenu(title, this);
+  menu->setObjectName(name);
+  menuBar()->insertMenu(findChild<QMenu*>("Hilfe1")->menuAction(), menu);
+  return menu;
+}
+
 QMenu* TGraphForm::BuildGraphicMenu() {
   auto* graphic = new QMenu(tr("&Graphic"), this);
   graphic->setObjectName("Graphik1");
@@ -153,10 +171,10 @@ QMenu* TGraphForm::BuildGraphicMenu() {
 }
 
 QMenu* TGraphForm::BuildScalesMenu() {
-  auto* scales = new QMenu(tr("&Scales"), this);
+  auto* scales = scales1_ = new QMenu(tr("&Scales"), this);
   scales->setObjectName("Skalierung1");
-  connect(AddAction(scales, "xAutoskalierung1", tr("&x-Autoscale")), &QAction::triggered, this,
-          [this] { Autoscale(true, false); });
+  firstScalesItem_ = AddAction(scales, "xAutoskalierung1", tr("&x-Autoscale"));
+  connect(firstScalesItem_, &QAction::triggered, this, [this] { Autoscale(true, false); });
   connect(AddAction(scales, "yAutoskalierung1", tr("&y-Autoscale")), &QAction::triggered, this,
           [this] { Autoscale(false, true); });
   connect(AddAction(scales, "Autoskalierung1", tr("xy-&Autoscale")), &QAction::triggered, this,
@@ -247,12 +265,17 @@ void TGraphForm::FormActivate() {
   diagram::Diagram& d = diagram::CurrentDiagram();
   // The cartesian kind: a logarithmic x axis chosen before is kept, polar and Smith are not.
   if (diagram::IsRoundMode(d.xMode)) diagram::SetAxisModes(d, diagram::AxisMode::Linear, diagram::AxisMode::Linear);
-  xlog1_->setChecked(d.xMode == diagram::AxisMode::Log);
-  ylog1_->setChecked(d.yMode == diagram::AxisMode::Log);
   ComputeCurves();
   ResetScale(d);
+  ShowScaleModes();
   activated_ = true;
-  Redraw();
+  Rescaled();
+}
+
+void TGraphForm::ShowScaleModes() {
+  const diagram::Diagram& d = diagram::CurrentDiagram();
+  xlog1_->setChecked(d.xMode == diagram::AxisMode::Log);
+  ylog1_->setChecked(d.yMode == diagram::AxisMode::Log);
 }
 
 // Activation is due when the user comes back from another window of the program, but not from
@@ -273,6 +296,13 @@ plots::PlotLook TGraphForm::Look() const {
 
 void TGraphForm::Redraw() {
   if (!activated_ || image_->width() < kSmallestSide || image_->height() < kSmallestSide) return;
+  if (requested_) {
+    diagram::Diagram& d = diagram::CurrentDiagram();
+    d.xMin = requested_->xMin;
+    d.xMax = requested_->xMax;
+    d.yMin = requested_->yMin;
+    d.yMax = requested_->yMax;
+  }
   picture_ = QImage(image_->size(), QImage::Format_RGB32);
   {
     QPainter painter(&picture_);
@@ -280,6 +310,11 @@ void TGraphForm::Redraw() {
     DrawPicture(canvas);
   }
   image_->ShowPicture(picture_, diagram::CurrentDiagram());
+}
+
+void TGraphForm::Rescaled() {
+  requested_ = diagram::CurrentDiagram();
+  Redraw();
 }
 
 const QImage& TGraphForm::Picture() const { return picture_; }

@@ -27,12 +27,14 @@ namespace graphwin {
 
 class TDiagramImage;
 class TGRHilfeBox;
+class TQcircle;
 class TXmaxDlg1;
 
 // The dialogs all graph windows share; created after the windows, so filled in later.
 struct GraphDialogs {
   TGRHilfeBox* help = nullptr;
   TXmaxDlg1* axisValue = nullptr;
+  TQcircle* qCircle = nullptr;
 };
 
 using InputsSource = std::function<plots::GraphInputs()>;
@@ -60,10 +62,24 @@ class TGraphForm : public QMainWindow {
   QWidget* ToolPanel() const { return panel1_; }
   // A window's own item of the "&File" menu, after the picture saves.
   QAction* InsertFileItem(const char* name, const QString& caption);
+  // A window's display-mode items at the top of "&Scales", before the autoscales.
+  QAction* InsertScalesItem(const char* name, const QString& caption);
+  void InsertScalesSeparator(const char* name);
+  // A menu of the window's own, before "&Help".
+  QMenu* InsertMenu(const char* name, const QString& title);
+  // The check marks of x-log and y-log after the scale modes.
+  void ShowScaleModes();
+  // The printer set-up dialog on the window's printer.
+  void PrinterSetupClick();
   const plots::GraphInputs& Inputs() const { return inputs_; }
+  const GraphDialogs& Dialogs() const { return dialogs_; }
   // The page's display options and the dot cycle, as the drawing takes them.
   plots::PlotLook Look() const;
   void Redraw();
+  // The ranges of the diagram state are what the user asked for now: later redraws start from
+  // them again, so that a polar or Smith diagram, which widens one axis to fit its picture,
+  // keeps its range however often the window is resized. Then redraws.
+  void Rescaled();
   // Writes a text file whole or not at all; a failure is reported.
   void WriteTextFile(const QString& path, const std::string& text);
 
@@ -79,6 +95,13 @@ class TGraphForm : public QMainWindow {
   virtual std::vector<double> YValues() const = 0;
   // The curves as plotted, as CSV text.
   virtual std::string CurvesCsv() const = 0;
+  // The message that refuses a logarithmic x axis in the present display; empty to allow it.
+  virtual std::string LogXRefusal() const { return {}; }
+  // A double click defines the origin also in a polar diagram, instead of beeping there.
+  virtual bool DefinesOriginOnEveryDoubleClick() const { return false; }
+  // Prints the picture as wide as the page, refusing while the printer is busy, instead of the
+  // whole diagram fitted to the page.
+  virtual bool PrintsBitmap() const { return false; }
 
   bool event(QEvent* event) override;
 
@@ -120,10 +143,13 @@ class TGraphForm : public QMainWindow {
   bool activated_ = false;
   bool activateOnReturn_ = false;
   std::optional<QPointF> rubberStart_;  // world point where the right button went down
+  std::optional<diagram::Diagram> requested_;  // the ranges as last asked for
   QString lastPictureFile_;
   QImage picture_;
   std::unique_ptr<QPrinter> printer_;
   QMenu* file1_ = nullptr;
+  QMenu* scales1_ = nullptr;
+  QAction* firstScalesItem_ = nullptr;  // the window's display modes go before it
   QAction* exportCurves1_ = nullptr;  // the window's own file items go before it
   QWidget* panel1_ = nullptr;
   TDiagramImage* image_ = nullptr;

@@ -75,12 +75,18 @@ QPrinter& TGraphForm::Printer() {
   return *printer_;
 }
 
-// The diagram alone, without the tool bar and the read-out, as wide as the page in the proportions
-// of the window's picture. It is drawn again at the printer's resolution through the window's
-// drawing routine rather than stretching the screen's bitmap, so it prints as sharp as the
-// printer can.
+void TGraphForm::PrinterSetupClick() { controls::SetUpPrinter(this, Printer()); }
+
+// The diagram alone, without the tool bar and the read-out, in the proportions of the window's
+// picture: fitted to the page, or as wide as the page where the window prints its bitmap. It is
+// drawn again at the printer's resolution through the window's drawing routine rather than
+// stretching the screen's bitmap, so it prints as sharp as the printer can.
 void TGraphForm::Print1Click() {
   QPrinter& printer = Printer();
+  if (PrintsBitmap() && printer.printerState() == QPrinter::Active) {
+    controls::ShowMessage(this, tr("Printer is already active!"));
+    return;
+  }
   if (!controls::ChoosePrinter(this, printer)) return;
   QPainter painter;
   if (!painter.begin(&printer)) {
@@ -89,7 +95,12 @@ void TGraphForm::Print1Click() {
   }
   const QSize page(printer.width(), printer.height());
   const QSize shape = picture_.isNull() ? QSize(4, 3) : picture_.size();
-  PaintPicture(painter, shape.scaled(page, Qt::KeepAspectRatio));
+  if (!PrintsBitmap()) {
+    PaintPicture(painter, shape.scaled(page, Qt::KeepAspectRatio));
+    return;
+  }
+  const WindowSize printed = PrintedBitmapSize({shape.width(), shape.height()}, page.width());
+  if (printed.height > 0) PaintPicture(painter, QSize(printed.width, printed.height));
 }
 
 }  // namespace graphwin

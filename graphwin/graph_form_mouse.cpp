@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLabel>
 
+#include "controls/message_box.h"
 #include "diagram/autoscale.h"
 #include "diagram/axis_ends.h"
 #include "diagram/scaling.h"
@@ -72,7 +73,7 @@ void TGraphForm::AskAxisLimit(AxisEnd end, QPoint at) {
     d.yStep = GridStep(d.yMin, d.yMax);
     diagram::RecomputeYAxis(d);
   }
-  Redraw();
+  Rescaled();
 }
 
 double TGraphForm::AskValue(const QString& label, double value, Bounds bounds, QPoint position) {
@@ -100,6 +101,9 @@ void TGraphForm::ImageMouseUp(QPoint at, Qt::MouseButton button) {
     d.yStep = GridStep(d.yMin, d.yMax);
     diagram::RecomputeXAxis(d);
     diagram::RecomputeYAxis(d);
+    rubberStart_.reset();
+    Rescaled();
+    return;
   }
   rubberStart_.reset();
   Redraw();
@@ -119,7 +123,8 @@ void TGraphForm::ImageMouseMove(QPoint at) {
 
 void TGraphForm::ImageDblClick() {
   const Diagram& d = diagram::CurrentDiagram();
-  if (d.xMode == diagram::AxisMode::Polar || d.yMode == diagram::AxisMode::Polar) {
+  const bool polar = d.xMode == diagram::AxisMode::Polar || d.yMode == diagram::AxisMode::Polar;
+  if (polar && !DefinesOriginOnEveryDoubleClick()) {
     QApplication::beep();
     return;
   }
@@ -136,7 +141,7 @@ void TGraphForm::Ursprungfestlegen1Click() {
 
 void TGraphForm::ZoomButtonClick(bool in) {
   in ? diagram::ZoomIn(diagram::CurrentDiagram()) : diagram::ZoomOut(diagram::CurrentDiagram());
-  Redraw();
+  Rescaled();
 }
 
 void TGraphForm::Autoscale(bool x, bool y) {
@@ -149,11 +154,16 @@ void TGraphForm::Autoscale(bool x, bool y) {
     const std::vector<double> values = YValues();
     diagram::AutoscaleY(d, values, static_cast<int>(values.size()));
   }
-  Redraw();
+  Rescaled();
 }
 
 // The check mark has changed already: the item is checkable, and the tool button triggers it.
 void TGraphForm::xlog1Click() {
+  if (const std::string refusal = LogXRefusal(); !refusal.empty()) {
+    xlog1_->setChecked(!xlog1_->isChecked());
+    controls::ShowMessage(this, QString::fromStdString(refusal));
+    return;
+  }
   Diagram& d = diagram::CurrentDiagram();
   diagram::SetAxisModes(d, xlog1_->isChecked() ? diagram::AxisMode::Log : diagram::AxisMode::Linear, d.yMode);
   Autoscale(true, false);

@@ -21,6 +21,11 @@ WindowSize StandardSize(int screenWidth) {
   return {640, 480};
 }
 
+WindowSize PrintedBitmapSize(WindowSize picture, int pageWidth) {
+  if (picture.height > picture.width) return {pageWidth, 0};
+  return {pageWidth, Rounded(static_cast<double>(pageWidth) * picture.height / picture.width)};
+}
+
 DotState NextDotState(DotState state) {
   if (state.dots) return {false, true};
   return {!state.second, false};

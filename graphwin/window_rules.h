@@ -20,6 +20,10 @@ WindowSize ShrunkSize(WindowSize size);
 // 768 x 576 on a screen at least 999 pixels wide, 533 x 400 below 799, else 640 x 480.
 WindowSize StandardSize(int screenWidth);
 
+// A picture printed as a bitmap: as wide as the page, in its own proportions; a picture higher
+// than wide prints an empty page (height 0).
+WindowSize PrintedBitmapSize(WindowSize picture, int pageWidth);
+
 // The dot button cycles: dots on; dots off with the second flag; dots off; dots on again.
 // The second flag draws the lines straight from point to point.
 struct DotState {

@@ -9,6 +9,9 @@
 #include "file_names.h"
 #include "graphwin/grhilfe.h"
 #include "graphwin/gwin.h"
+#include "graphwin/phiwin.h"
+#include "graphwin/qkreis.h"
+#include "graphwin/vuwin.h"
 #include "graphwin/xmax_dlg.h"
 #include "help_boxes.h"
 #include "main_window.h"
@@ -23,12 +26,20 @@ struct FormFactories {
   static QWidget* CreateSDIAppForm(FormSet& forms, const QStringList& arguments) {
     return forms.sdiAppForm_ = new TSDIAppForm(forms, arguments);
   }
-  static QWidget* CreateFormG(FormSet& forms, const QStringList&) {
+  template <typename Form, Form* FormSet::*member, graphwin::DiagramWindow window>
+  static QWidget* CreateDiagramWindow(FormSet& forms, const QStringList&) {
     TSDIAppForm* main = forms.sdiAppForm_;
-    forms.formG_ = new graphwin::TFormG([main] { return main->GraphInputs(); }, forms.graphDialogs_);
-    forms.diagramWindows_[static_cast<std::size_t>(graphwin::DiagramWindow::Gain)] = forms.formG_;
-    return forms.formG_;
+    Form* form = new Form([main] { return main->GraphInputs(); }, forms.graphDialogs_);
+    forms.*member = form;
+    forms.diagramWindows_[static_cast<std::size_t>(window)] = form;
+    return form;
   }
+  static constexpr Factory CreateFormVu =
+      CreateDiagramWindow<graphwin::TFormVu, &FormSet::formVu_, graphwin::DiagramWindow::Transmission>;
+  static constexpr Factory CreateFormPhi =
+      CreateDiagramWindow<graphwin::TFormPhi, &FormSet::formPhi_, graphwin::DiagramWindow::Reflection>;
+  static constexpr Factory CreateFormG =
+      CreateDiagramWindow<graphwin::TFormG, &FormSet::formG_, graphwin::DiagramWindow::Gain>;
   static QWidget* CreateGRHilfeBox(FormSet& forms, const QStringList&) {
     return forms.graphDialogs_.help = new graphwin::TGRHilfeBox;
   }
@@ -44,9 +55,13 @@ struct FormFactories {
   static QWidget* CreateHilfeBox(FormSet& forms, const QStringList&) {
     return forms.hilfeBox_ = new THilfeBox;
   }
+  static QWidget* CreateQcircle(FormSet& forms, const QStringList&) {
+    return forms.graphDialogs_.qCircle = new graphwin::TQcircle;
+  }
 
-  static constexpr Factory kCreationOrder[] = {CreateSDIAppForm, CreateFormG,    CreateGRHilfeBox, CreateXmaxDlg1,
-                                               CreateAboutBox,   CreateHilfeFOMBox, CreateHilfeBox};
+  static constexpr Factory kCreationOrder[] = {CreateSDIAppForm, CreateFormVu,      CreateFormPhi,  CreateFormG,
+                                               CreateGRHilfeBox, CreateXmaxDlg1,    CreateAboutBox, CreateHilfeFOMBox,
+                                               CreateHilfeBox,   CreateQcircle};
 };
 
 FormSet::FormSet(const QStringList& arguments) {

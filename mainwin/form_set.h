@@ -12,7 +12,10 @@ class QWidget;
 
 namespace graphwin {
 class TFormG;
+class TFormPhi;
+class TFormVu;
 class TGRHilfeBox;
+class TQcircle;
 class TXmaxDlg1;
 }  // namespace graphwin
 
@@ -37,9 +40,12 @@ class FormSet {
   TAboutBox* AboutBox() const { return aboutBox_; }
   THilfeFOMBox* HilfeFOMBox() const { return hilfeFomBox_; }
   THilfeBox* HilfeBox() const { return hilfeBox_; }
+  graphwin::TFormVu* FormVu() const { return formVu_; }
+  graphwin::TFormPhi* FormPhi() const { return formPhi_; }
   graphwin::TFormG* FormG() const { return formG_; }
   graphwin::TGRHilfeBox* GRHilfeBox() const { return graphDialogs_.help; }
   graphwin::TXmaxDlg1* XmaxDlg1() const { return graphDialogs_.axisValue; }
+  graphwin::TQcircle* Qcircle() const { return graphDialogs_.qCircle; }
   // The graph window of a diagram button; null while that window is not part of the program.
   graphwin::TGraphForm* DiagramWindowOf(graphwin::DiagramWindow window) const;
 
@@ -51,6 +57,8 @@ class FormSet {
   TAboutBox* aboutBox_ = nullptr;
   THilfeFOMBox* hilfeFomBox_ = nullptr;
   THilfeBox* hilfeBox_ = nullptr;
+  graphwin::TFormVu* formVu_ = nullptr;
+  graphwin::TFormPhi* formPhi_ = nullptr;
   graphwin::TFormG* formG_ = nullptr;
   graphwin::GraphDialogs graphDialogs_;
   std::array<graphwin::TGraphForm*, graphwin::kDiagramWindowCount> diagramWindows_{};

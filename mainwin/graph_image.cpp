@@ -4,19 +4,14 @@
 #include <QPainter>
 #include <cassert>
 
+#include "diagram/pages/read_out.h"
 #include "diagram/scaling.h"
-#include "numerics/prefixed_number.h"
-#include "numerics/text_functions.h"
 
 namespace mainwin {
 namespace {
 
 // Smaller pictures leave no room for a diagram frame.
 constexpr int kSmallestSide = 64;
-
-QString ValueText(double value) {
-  return QString::fromStdString(numerics::TrimLeftText(numerics::FormatPrefixed(2, value)));
-}
 
 }  // namespace
 
@@ -65,8 +60,8 @@ void TGraphImage::mouseMoveEvent(QMouseEvent* event) {
     emit ReadOut(QString());
     return;
   }
-  emit ReadOut("x: " + ValueText(diagram::PixelToX(scale_, at.x())) +
-               ", y: " + ValueText(diagram::PixelToY(scale_, at.y())));
+  const double x = diagram::PixelToX(scale_, at.x()), y = diagram::PixelToY(scale_, at.y());
+  emit ReadOut(QString::fromStdString(diagram::pages::ReadOutText(page_, scene_, x, y)));
 }
 
 void TGraphImage::leaveEvent(QEvent*) { emit ReadOut(QString()); }

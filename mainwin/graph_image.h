@@ -27,7 +27,8 @@ class TGraphImage : public QWidget {
   void Paint(QPainter& painter, const QRect& rect) const;
 
  signals:
-  // "x: ..., y: ..." for the point under the mouse inside the frame; empty outside it.
+  // The axis quantities with their units for the point under the mouse inside the frame
+  // ("Ic = 15.18 mA, fT = 28.64 GHz"); empty outside it.
   void ReadOut(const QString& text);
 
  protected:

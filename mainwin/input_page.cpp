@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "controls/string_align_grid.h"
 #include "series/series_list.h"
@@ -41,6 +42,7 @@ double EntryValue(const QLineEdit* edit, double fallback) {
 }
 
 constexpr int kFileRows = static_cast<int>(series::kMaxSeriesFiles) + 1;  // row 0 is not used
+constexpr int kFileColumnWidth = 234;
 
 QToolButton* MakeToolButton(QWidget* parent, const char* name, QStyle::StandardPixmap icon, const QString& hint) {
   auto* button = new QToolButton(parent);
@@ -78,16 +80,17 @@ QWidget* InputPage::MakeFileList() {
   ShowSeriesCount(0);
   stringGridFiles_ = new controls::TStringAlignGrid(1, kFileRows, column);
   stringGridFiles_->setObjectName("StringGridFiles");
-  stringGridFiles_->SetDefaultColumnWidth(234);
+  stringGridFiles_->SetDefaultColumnWidth(kFileColumnWidth);
   stringGridFiles_->SetDefaultRowHeight(18);
   stringGridFiles_->setRowHidden(0, true);
   stringGridFiles_->setFont(CompactFont(stringGridFiles_->font()));
-  stringGridFiles_->setTextElideMode(Qt::ElideLeft);  // the file name at the end stays readable
   stringGridFiles_->setMinimumWidth(240);
   connect(stringGridFiles_, &QTableWidget::cellClicked, this, [this](int row) { emit FileRowSelected(row); });
-  auto* deleteList = MakeToolButton(column, "SpeedButtonDeleteList", QStyle::SP_TrashIcon, tr("Delete Complete List"));
+  // A bin for the whole list, a clearing mark for the last file, so that the two look apart.
+  auto* deleteList =
+      MakeToolButton(column, "SpeedButtonDeleteList", QStyle::SP_DialogDiscardButton, tr("Delete Complete List"));
   auto* deleteLast =
-      MakeToolButton(column, "SpeedButtonDeletaLastFile", QStyle::SP_DialogDiscardButton, tr("Delete Last File"));
+      MakeToolButton(column, "SpeedButtonDeletaLastFile", QStyle::SP_LineEditClearButton, tr("Delete Last File"));
   connect(deleteList, &QToolButton::clicked, this, &InputPage::DeleteListClicked);
   connect(deleteLast, &QToolButton::clicked, this, &InputPage::DeleteLastClicked);
   auto* buttons = new QHBoxLayout;
@@ -223,12 +226,18 @@ void InputPage::ShowSeriesCount(int count) {
   labelNo_->setText(tr("Number of files = ") + QString::number(count));
 }
 
-void InputPage::ShowFileRow(int row, const std::string& path) {
-  stringGridFiles_->SetCells(0, row, QString::fromStdString(series::FileListPathText(path)));
-}
-
-void InputPage::ClearFileRows(int first, int last) {
-  for (int row = first; row <= last; ++row) stringGridFiles_->ClearRow(row);
+void InputPage::ShowFiles(const std::vector<std::string>& paths) {
+  const std::vector<std::string> texts = series::FileListPathTexts(paths);
+  for (std::size_t i = 0; i < paths.size(); ++i) {
+    const int row = static_cast<int>(i + 1);
+    stringGridFiles_->SetCells(0, row, QString::fromStdString(texts[i]), QString::fromStdString(paths[i]));
+  }
+  for (int row = static_cast<int>(paths.size()) + 1; row < kFileRows; ++row) stringGridFiles_->ClearRow(row);
+  ShowSeriesCount(static_cast<int>(paths.size()));
+  // As wide as the grid, and wider where a text needs it, so that every text shows whole.
+  stringGridFiles_->resizeColumnToContents(0);
+  const int fitted = std::max(stringGridFiles_->columnWidth(0), stringGridFiles_->viewport()->width());
+  stringGridFiles_->setColumnWidth(0, std::max(fitted, kFileColumnWidth));
 }
 
 series::SeriesSettings InputPage::EvaluationSettings() const {

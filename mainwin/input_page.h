@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <string>
+#include <vector>
 
 #include "series/series_settings.h"
 #include "settings_file.h"
@@ -32,10 +33,9 @@ class InputPage : public QWidget {
   void ShowSettings(const IniSettings& settings);
   // The values to store; an edit without digits keeps the value it was last given.
   IniSettings CurrentSettings() const;
-  void ShowSeriesCount(int count);
-  // Row r (1..40) of StringGridFiles shows the path, abbreviated when long.
-  void ShowFileRow(int row, const std::string& path);
-  void ClearFileRows(int first, int last);
+  // Row r (1..40) of StringGridFiles shows path r, abbreviated when long, with the whole path as
+  // its tool tip; the rows below are cleared.
+  void ShowFiles(const std::vector<std::string>& paths);
 
   // What the series evaluation and the output pages are asked for; the comment is left empty
   // and the files are read plain.
@@ -63,6 +63,7 @@ class InputPage : public QWidget {
   QWidget* MakeXAxisChoice();
   QWidget* MakeOptions();
   QLineEdit* MakeEntry(const char* name, const QString& text);
+  void ShowSeriesCount(int count);
   void CheckUnitButton(double multiplier);
 
   IniSettings shown_;

@@ -13,6 +13,7 @@
 #include "form_set.h"
 #include "history_list.h"
 #include "main_window.h"
+#include "controls/message_box.h"
 #include "tools_menu.h"
 
 namespace mainwin {
@@ -69,7 +70,7 @@ QMenu* TSDIAppForm::BuildToolsMenu() {
   struct Program {
     const char* name;
     QString caption;
-    bool (*start)();
+    ProgramStart (*start)();
   };
   const Program programs[] = {
       {"Calculator1", tr("&Calculator"), StartCalculator},
@@ -80,13 +81,15 @@ QMenu* TSDIAppForm::BuildToolsMenu() {
   };
   for (const Program& program : programs) {
     QAction* action = AddAction(tools, program.name, program.caption, QString());
-    connect(action, &QAction::triggered, this, [this, start = program.start] { StartOrBeep(start()); });
+    connect(action, &QAction::triggered, this,
+            [this, action, start = program.start] { SayWhenNotStarted(action, start()); });
   }
   tools->addSeparator();
   QAction* edit = AddAction(tools, "EditLastDataFile1", tr("&Edit Last Data File"),
                             tr("Open the last exported data file in the text editor"));
   edit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
-  connect(edit, &QAction::triggered, this, [this] { StartOrBeep(StartTextEditor(lastExportFile_)); });
+  connect(edit, &QAction::triggered, this,
+          [this, edit] { SayWhenNotStarted(edit, StartTextEditor(lastExportFile_)); });
   return tools;
 }
 
@@ -99,8 +102,8 @@ QMenu* TSDIAppForm::BuildHelpMenu() {
   connect(AddAction(help, "VortoHelp1", tr("&Vorto Help"), QString()), &QAction::triggered, this,
           &TSDIAppForm::VortoHelp1Click);
   help->addSeparator();
-  connect(AddAction(help, "EMail1", tr("&E-Mail to the Author"), QString()), &QAction::triggered, this,
-          [this] { StartOrBeep(OpenMailToAuthor()); });
+  QAction* mail = AddAction(help, "EMail1", tr("&E-Mail to the Author"), QString());
+  connect(mail, &QAction::triggered, this, [this, mail] { SayWhenNotStarted(mail, OpenMailToAuthor()); });
   connect(AddAction(help, "Info1", tr("&Info..."), tr("Information about the program")), &QAction::triggered,
           this, [this] { forms_.AboutBox()->exec(); });
   return help;
@@ -154,6 +157,14 @@ QWidget* TSDIAppForm::BuildBottomButtons() {
 
 void TSDIAppForm::StartOrBeep(bool started) {
   if (!started) QApplication::beep();
+}
+
+void TSDIAppForm::SayWhenNotStarted(const QAction* item, const ProgramStart& start) {
+  if (start.started) return;
+  QApplication::beep();
+  const QString caption = item->text().remove('&');
+  controls::ShowMessage(
+      this, tr("\"%1\" started nothing: %2. Install such a program, then try again!").arg(caption, start.tried));
 }
 
 }  // namespace mainwin

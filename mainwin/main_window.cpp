@@ -139,7 +139,7 @@ void TSDIAppForm::FormCreate(const QStringList& arguments) {
     table->SetCells(column, 0, QString::fromUtf8(series::kTableHeader[static_cast<std::size_t>(column)]));
   }
   ReadIniFile();
-  inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
+  inputPage_->ShowFiles(series_.Paths());
   QSettings settings;
   if (const QString problem = StoreReadMessage(settings); !problem.isEmpty()) controls::ShowMessage(this, problem);
   restoreGeometry(settings.value(kGeometryKey).toByteArray());

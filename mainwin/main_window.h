@@ -31,6 +31,7 @@ class TStringAlignGrid;
 namespace mainwin {
 
 class FormSet;
+struct ProgramStart;
 class FrequencyPage;
 class InputPage;
 class TGraphPage;
@@ -100,7 +101,6 @@ class TSDIAppForm : public QMainWindow {
   void RestoreReadingChoice(const QSettings& settings);
   bool RefuseWhenStoreFull();
   void AppendSeriesFiles(const QStringList& paths);
-  void ShowAppendedRows(std::size_t firstIndex);
   void SpeedButtonDeleteListClick();
   void SpeedButtonDeletaLastFileClick();
   void StringGridFilesSelectCell(int row);
@@ -139,6 +139,7 @@ class TSDIAppForm : public QMainWindow {
   void ExecButtonClick();
   void Drucken1Click();
   void StartOrBeep(bool started);
+  void SayWhenNotStarted(const QAction* item, const ProgramStart& start);
 
   FormSet& forms_;
   series::SeriesList series_;

@@ -18,6 +18,7 @@ constexpr int kTableRows = 42;  // the header and up to 41 result rows
 
 QFont CompactFont(QFont font) {
   font.setPixelSize(11);
+  font.setStretch(QFont::Condensed);
   return font;
 }
 
@@ -37,9 +38,9 @@ QWidget* MakeTablePage(QWidget* parent) {
   for (int column = 0; column < kTableColumns; ++column) grid->SetColumnAlignment(column, Qt::AlignCenter);
   grid->setFont(CompactFont(grid->font()));
   grid->SetDefaultColumnWidth(66);
-  // The value columns as wide as their texts, the file names in the rest of the width.
+  // Every column as wide as its texts, so that each shows whole; the last takes the rest of the width.
   grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+  grid->horizontalHeader()->setStretchLastSection(true);
   grid->SetDefaultRowHeight(18);
   grid->SetFixedRows(1);
   layout->addWidget(MakeCommentEdit(page, "EditComment3", QObject::tr("Output")));
@@ -51,10 +52,12 @@ void ShowResultTable(controls::TStringAlignGrid& grid, const series::SeriesList&
                      const series::SeriesSettings& settings) {
   assert(results.size() == list.SeriesCount());
   const int count = static_cast<int>(results.size());
+  const std::vector<std::string> pathTexts = series::TablePathTexts(list.Paths());
   for (int row = 1; row <= count; ++row) {
     const auto i = static_cast<std::size_t>(row - 1);
-    const std::vector<std::string> cells = series::TableRowTexts(list.Path(i), results[i], settings);
-    for (int column = 0; column < kTableColumns; ++column) {
+    const std::vector<std::string> cells = series::TableRowTexts(pathTexts[i], results[i], settings);
+    grid.SetCells(0, row, QString::fromStdString(cells.front()), QString::fromStdString(list.Path(i)));
+    for (int column = 1; column < kTableColumns; ++column) {
       const bool filled = static_cast<std::size_t>(column) < cells.size();
       grid.SetCells(column, row, filled ? QString::fromStdString(cells[static_cast<std::size_t>(column)]) : QString());
     }

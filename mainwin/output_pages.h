@@ -18,7 +18,8 @@ class TStringAlignGrid;
 // content is drawn from the bias-series results when a page is entered.
 namespace mainwin {
 
-// The smaller font of the grids, so that the 18-pixel rows hold a line of text.
+// The smaller font of the grids, so that the 18-pixel rows hold a line of text; condensed, as it
+// is wider than the font the columns were sized for, so that an abbreviated path fits whole.
 QFont CompactFont(QFont font);
 
 // A comment edit of an output page, with the hint every such edit carries.

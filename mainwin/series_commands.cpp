@@ -35,36 +35,23 @@ void TSDIAppForm::AppendSeriesFiles(const QStringList& paths) {
     controls::ShowMessage(this, QString::fromStdString(series::RefusedFilesMessage(dropped.refused)));
   }
   if (dropped.series.empty()) return;
-  const std::size_t first = series_.SeriesCount();
   const series::AppendResult appended = series_.Append(dropped.series);
   if (!appended.message.empty()) {
     controls::ShowMessage(this, QString::fromStdString(appended.message));
     return;
   }
-  ShowAppendedRows(first);
+  inputPage_->ShowFiles(series_.Paths());
   if (inputPage_->AutoCalculate()) CalculateSeries();
 }
 
-void TSDIAppForm::ShowAppendedRows(std::size_t firstIndex) {
-  for (std::size_t i = firstIndex; i < series_.SeriesCount(); ++i) {
-    inputPage_->ShowFileRow(static_cast<int>(i + 1), series_.Path(i));
-  }
-  inputPage_->ShowSeriesCount(static_cast<int>(series_.SeriesCount()));
-}
-
 void TSDIAppForm::SpeedButtonDeleteListClick() {
-  const int count = static_cast<int>(series_.SeriesCount());
   series_.DeleteAll();
-  inputPage_->ClearFileRows(1, count);
-  inputPage_->ShowSeriesCount(0);
+  inputPage_->ShowFiles(series_.Paths());
 }
 
 void TSDIAppForm::SpeedButtonDeletaLastFileClick() {
-  const int count = static_cast<int>(series_.SeriesCount());
-  if (count == 0) return;
   series_.DeleteLast();
-  inputPage_->ClearFileRows(count, count);
-  inputPage_->ShowSeriesCount(count - 1);
+  inputPage_->ShowFiles(series_.Paths());
 }
 
 // Selecting a file tells its values and offers to move it up by one; the first file changes
@@ -79,10 +66,8 @@ void TSDIAppForm::StringGridFilesSelectCell(int row) {
     return;
   }
   if (!controls::AskQuestion(this, text + series::kMoveUpQuestion)) return;
-  const std::size_t other = index == 0 ? count - 1 : index - 1;
   series_.MoveUp(index);
-  inputPage_->ShowFileRow(row, series_.Path(index));
-  inputPage_->ShowFileRow(static_cast<int>(other + 1), series_.Path(other));
+  inputPage_->ShowFiles(series_.Paths());
   if (inputPage_->AutoCalculate()) CalculateSeries();
 }
 

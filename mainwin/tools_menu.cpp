@@ -1,6 +1,7 @@
 #include "tools_menu.h"
 
 #include <QCoreApplication>
+#include <QObject>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -18,31 +19,36 @@ const QStringList kTextEditors = {"gnome-text-editor", "gedit", "kate", "kwrite"
                                   "pluma", "xed", "featherpad", "leafpad"};
 const QStringList kClipboardViewers = {"xclipboard", "diodon", "parcellite", "clipit"};
 
-bool StartFirstFound(const QStringList& programs, const QStringList& arguments) {
+ProgramStart StartFirstFound(const QStringList& programs, const QStringList& arguments) {
   for (const QString& program : programs) {
     const QString path = QStandardPaths::findExecutable(program);
-    if (!path.isEmpty()) return QProcess::startDetached(path, arguments);
+    if (!path.isEmpty() && QProcess::startDetached(path, arguments)) return {true, {}};
   }
-  return false;
+  return {false, QObject::tr("none of %1 could be started").arg(programs.join(", "))};
+}
+
+// The desktop's opener for the address (xdg-open or the desktop's own).
+ProgramStart OpenWithDesktop(const QUrl& address) {
+  if (QDesktopServices::openUrl(address)) return {true, {}};
+  return {false, QObject::tr("the desktop has no program that opens %1").arg(address.toString())};
 }
 
 }  // namespace
 
 bool StartProgram(const QString& program) { return QProcess::startDetached(program, {}); }
 
-bool StartCalculator() { return StartFirstFound(kCalculators, {}); }
+ProgramStart StartCalculator() { return StartFirstFound(kCalculators, {}); }
 
-bool StartFileManager() { return QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::homePath())); }
+ProgramStart StartFileManager() { return OpenWithDesktop(QUrl::fromLocalFile(QDir::homePath())); }
 
-bool StartTwoPortCalculations() {
-  const QString beside = QDir(QCoreApplication::applicationDirPath()).filePath("vierpol");
-  if (QFileInfo(beside).isExecutable()) return StartProgram(beside);
-  return StartFirstFound({"vierpol"}, {});
+// The one beside the program first, then one on the search path.
+ProgramStart StartTwoPortCalculations() {
+  return StartFirstFound({QDir(QCoreApplication::applicationDirPath()).filePath("vierpol"), "vierpol"}, {});
 }
 
-bool StartClipboardViewer() { return StartFirstFound(kClipboardViewers, {}); }
+ProgramStart StartClipboardViewer() { return StartFirstFound(kClipboardViewers, {}); }
 
-bool StartTextEditor(const QString& fileName) {
+ProgramStart StartTextEditor(const QString& fileName) {
   const QStringList arguments = fileName.isEmpty() ? QStringList() : QStringList{fileName};
   return StartFirstFound(kTextEditors, arguments);
 }
@@ -58,8 +64,8 @@ bool OpenHelpFile() {
   return false;
 }
 
-bool OpenMailToAuthor() {
-  return QDesktopServices::openUrl(QUrl(QStringLiteral("mailto:author@example.org?subject=S-Parameter%20Analysis")));
+ProgramStart OpenMailToAuthor() {
+  return OpenWithDesktop(QUrl(QStringLiteral("mailto:author@example.org?subject=S-Parameter%20Analysis")));
 }
 
 }  // namespace mainwin

@@ -2,19 +2,24 @@
 
 #include <QString>
 
-// The desktop programs of the tools menu, and the help and mail hand-offs. Each returns false when
-// nothing could be started, so that the caller can beep or say so.
+// The desktop programs of the tools menu, and the help and mail hand-offs.
 namespace mainwin {
 
+// Whether a program was started and, when none was, what was tried, for the message that says so.
+struct ProgramStart {
+  bool started = false;
+  QString tried;
+};
+
 bool StartProgram(const QString& program);
-bool StartCalculator();
-bool StartFileManager();
-bool StartTwoPortCalculations();
-bool StartClipboardViewer();
+ProgramStart StartCalculator();
+ProgramStart StartFileManager();
+ProgramStart StartTwoPortCalculations();
+ProgramStart StartClipboardViewer();
 // Opens the file in the desktop's text editor; an empty name starts the editor alone.
-bool StartTextEditor(const QString& fileName);
+ProgramStart StartTextEditor(const QString& fileName);
 // The manual "vortop.hlp", else "vorto.hlp", beside the program or in the working folder.
 bool OpenHelpFile();
-bool OpenMailToAuthor();
+ProgramStart OpenMailToAuthor();
 
 }  // namespace mainwin

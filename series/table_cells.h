@@ -16,16 +16,18 @@ inline constexpr std::size_t kTableColumnCount = 8;
 inline constexpr std::array<const char*, kTableColumnCount> kTableHeader = {
     "File Name", "Ic", "fT", "fmax", "MAG/MSG", "k", "f(k>1)", "j/(mA/µm²)"};
 
-// Column 0: the path when it is shorter than 31 characters, else its first 7 characters,
-// "..." and its last 15. Characters are counted in UTF-8.
-std::string TablePathText(const std::string& path);
+// Column 0 of the table for each path: the path when it is shorter than 31 characters, else its
+// first 7 characters, "..." and its last 15. Where that leaves different paths with the same
+// text, those show as much more of their end as tells them apart. Characters are counted in
+// UTF-8.
+std::vector<std::string> TablePathTexts(const std::vector<std::string>& paths);
 
-// A row of the file list: the path when it is shorter than 35 characters, else its first 17
-// characters, "..." and its last 19. Characters are counted in UTF-8.
-std::string FileListPathText(const std::string& path);
+// The rows of the file list, by the same rule with the limits 35, 17 and 19.
+std::vector<std::string> FileListPathTexts(const std::vector<std::string>& paths);
 
-// Columns 0 to 6 of one file's row, and column 7 (the current density) when asked for.
-std::vector<std::string> TableRowTexts(const std::string& path, const FileFigures& file,
+// One file's row: pathText in column 0, the values in columns 1 to 6, and column 7 (the current
+// density) when asked for.
+std::vector<std::string> TableRowTexts(const std::string& pathText, const FileFigures& file,
                                        const SeriesSettings& settings);
 
 }  // namespace series

@@ -7,13 +7,17 @@
 namespace diagram::pages {
 namespace {
 
-constexpr PlotSeries kFirstSeries = {{}, diagram::kGreen, diagram::kMarkerCross};
-constexpr PlotSeries kSecondSeries = {{}, diagram::kRed, diagram::kMarkerCircle};
+struct SeriesLook {
+  diagram::Colour colour;
+  std::uint8_t marker;
+};
+
+constexpr SeriesLook kFirstSeries = {diagram::kGreen, diagram::kMarkerCross};
+constexpr SeriesLook kSecondSeries = {diagram::kRed, diagram::kMarkerCircle};
 // Below this a stability limit counts as not found.
 constexpr double kNoLimit = 1e-6;
-// The gain axis keeps room up to 15 dB, and k shares it ten times enlarged.
+// The gain axis keeps room up to 15 dB.
 constexpr double kLeastGainAxisTop = 15;
-constexpr double kKScale = 10;
 
 double FT(const series::FileFigures& f) { return f.fT; }
 double Fmax(const series::FileFigures& f) { return f.fmax; }
@@ -22,8 +26,9 @@ double KTimesTen(const series::FileFigures& f) { return kKScale * f.k; }
 double MagDb(const series::FileFigures& f) { return f.magDb; }
 double Limit(const series::FileFigures& f) { return f.fk; }
 
-PlotSeries Series(const PlotSeries& look, const series::SeriesArrays& results, double (*value)(const series::FileFigures&)) {
-  PlotSeries series = look;
+PlotSeries Series(const SeriesLook& look, const char* name, const series::SeriesArrays& results,
+                  double (*value)(const series::FileFigures&)) {
+  PlotSeries series{{}, look.colour, look.marker, name};
   for (const series::FileFigures& file : results) series.y.push_back(value(file));
   return series;
 }
@@ -33,8 +38,8 @@ PageGraph FtFmaxGraph(const PageScene& scene) {
   PageGraph graph{XValues(scene), {}, XAxisTitle(scene.settings), "fT & fmax in Hz"};
   if (c.fTOnly) graph.yTitle = "fT in Hz";
   if (c.fmaxOnly) graph.yTitle = "fmax in Hz";
-  if (!c.fmaxOnly) graph.series.push_back(Series(kFirstSeries, scene.results, FT));
-  if (!c.fTOnly) graph.series.push_back(Series(kSecondSeries, scene.results, Fmax));
+  if (!c.fmaxOnly) graph.series.push_back(Series(kFirstSeries, "fT", scene.results, FT));
+  if (!c.fTOnly) graph.series.push_back(Series(kSecondSeries, "fmax", scene.results, Fmax));
   return graph;
 }
 
@@ -44,21 +49,21 @@ PageGraph KMagGraph(const PageScene& scene) {
   if (c.kOnly) {
     graph.yTitle = "k Factor";
     graph.leastYMax = 0;
-    graph.series.push_back(Series(kFirstSeries, scene.results, K));
+    graph.series.push_back(Series(kFirstSeries, "k", scene.results, K));
     return graph;
   }
   if (c.magMsgOnly) {
     graph.yTitle = "MAG/MSG in dB";
   } else {
-    graph.series.push_back(Series(kFirstSeries, scene.results, KTimesTen));
+    graph.series.push_back(Series(kFirstSeries, "k (x10)", scene.results, KTimesTen));
   }
-  graph.series.push_back(Series(kSecondSeries, scene.results, MagDb));
+  graph.series.push_back(Series(kSecondSeries, "MAG/MSG", scene.results, MagDb));
   return graph;
 }
 
 PageGraph StabilityGraph(const PageScene& scene) {
   PageGraph graph{XValues(scene), {}, XAxisTitle(scene.settings), "f(k>1) in Hz"};
-  graph.series.push_back(Series(kFirstSeries, scene.results, Limit));
+  graph.series.push_back(Series(kFirstSeries, "f(k>1)", scene.results, Limit));
   const std::vector<double>& fk = graph.series.front().y;
   // The warning stands where the axis title would, not in a message box.
   if (fk.empty() || *std::max_element(fk.begin(), fk.end()) <= kNoLimit) {

@@ -11,10 +11,14 @@
 // markers, and the axis titles. Pure functions of the scene, so they are tested without drawing.
 namespace diagram::pages {
 
+// Unless only k is shown, k shares the gain axis ten times enlarged.
+inline constexpr double kKScale = 10;
+
 struct PlotSeries {
   std::vector<double> y;  // one value per file
   diagram::Colour colour;
   std::uint8_t marker;
+  std::string name;  // as the legend names it
 };
 
 struct PageGraph {

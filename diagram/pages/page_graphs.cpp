@@ -11,6 +11,7 @@
 #include "diagram/curves.h"
 #include "diagram/frame.h"
 #include "graph_data.h"
+#include "graph_legend.h"
 #include "numerics/rounding.h"
 
 namespace diagram::pages {
@@ -67,6 +68,7 @@ void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
   diagram::SetDrawColour(diagram::kBlack, c);
   diagram::DrawXTitle(graph.xTitle, false, c);
   diagram::DrawYTitle(graph.yTitle, c);
+  DrawLegend(d, graph, c);
 }
 
 }  // namespace

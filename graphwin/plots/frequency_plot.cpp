@@ -57,8 +57,9 @@ void DrawCurve(const Diagram& d, const FrequencyCurve& curve, const PlotLook& lo
   }
 }
 
-// The title over the frame's right end, clear of the vertical axis's title; the heading and the
-// comment in the bottom line, below the frequency labels.
+}  // namespace
+
+// Clear of the vertical axis's title.
 void DrawHeadings(const Diagram& d, const FrequencyPlot& plot, Canvas& c) {
   diagram::SetDrawColour(diagram::kBlack, c);
   c.TextOut(d.pixRight - c.TextWidth(plot.title), 2, plot.title);
@@ -67,34 +68,35 @@ void DrawHeadings(const Diagram& d, const FrequencyPlot& plot, Canvas& c) {
   c.TextOut(d.pixRight - c.TextWidth(plot.comment), bottomLine, plot.comment);
 }
 
-std::string MaximumFrequencyText(const FrequencyPlot& plot) {
-  return "Max. f=" + numerics::TrimLeftText(numerics::FormatPrefixed(2, HighestFrequency(plot))) + "Hz";
+Legend LegendOf(const FrequencyPlot& plot) {
+  Legend legend{plot.legendHeading, {}, {}};
+  for (const FrequencyCurve& curve : plot.curves) legend.entries.push_back({curve.name, curve.colour});
+  legend.footer = "Max. f=" + numerics::TrimLeftText(numerics::FormatPrefixed(2, HighestFrequency(plot))) + "Hz";
+  return legend;
 }
 
-// In the upper right corner of the frame: the heading, each curve's name after a line in its
-// colour, and the highest frequency.
-void DrawLegend(const Diagram& d, const FrequencyPlot& plot, Canvas& c) {
-  int width = std::max(c.TextWidth(plot.legendHeading), c.TextWidth(MaximumFrequencyText(plot)));
-  for (const FrequencyCurve& curve : plot.curves) {
-    width = std::max(width, kLegendSample + kMargin + c.TextWidth(curve.name));
+void DrawLegend(const Diagram& d, const Legend& legend, LegendCorner corner, Canvas& c) {
+  int width = std::max(c.TextWidth(legend.heading), c.TextWidth(legend.footer));
+  for (const LegendEntry& entry : legend.entries) {
+    width = std::max(width, kLegendSample + kMargin + c.TextWidth(entry.name));
   }
-  const int left = d.pixRight - kMargin - width;
-  const int line = c.TextHeight(plot.legendHeading);
-  int top = d.pixTop + kMargin;
+  const int line = c.TextHeight(legend.heading);
+  const int lines = static_cast<int>(legend.entries.size()) + 2;
+  const bool upperRight = corner == LegendCorner::UpperRight;
+  const int left = upperRight ? d.pixRight - kMargin - width : d.pixLeft + kMargin;
+  int top = upperRight ? d.pixTop + kMargin : d.pixBottom - kMargin - lines * line;
   diagram::SetDrawColour(diagram::kBlack, c);
-  c.TextOut(left, top, plot.legendHeading);
-  for (const FrequencyCurve& curve : plot.curves) {
+  c.TextOut(left, top, legend.heading);
+  for (const LegendEntry& entry : legend.entries) {
     top += line;
-    diagram::SetDrawColour(curve.colour, c);
+    diagram::SetDrawColour(entry.colour, c);
     c.MoveTo(left, top + line / 2);
     c.LineTo(left + kLegendSample, top + line / 2);
-    c.TextOut(left + kLegendSample + kMargin, top, curve.name);
+    c.TextOut(left + kLegendSample + kMargin, top, entry.name);
   }
   diagram::SetDrawColour(diagram::kBlack, c);
-  c.TextOut(left, top + line, MaximumFrequencyText(plot));
+  c.TextOut(left, top + line, legend.footer);
 }
-
-}  // namespace
 
 std::vector<double> AllFrequencies(const FrequencyPlot& plot) {
   std::vector<double> all;
@@ -118,7 +120,7 @@ void DrawFrequencyPlot(const FrequencyPlot& plot, const PlotLook& look, Canvas& 
   diagram::DrawFrame(d, canvas, diagram::GridFrame(d.xLabelEvery, d.yLabelEvery));
   DrawHeadings(d, plot, canvas);
   for (const FrequencyCurve& curve : plot.curves) DrawCurve(d, curve, look, canvas);
-  if (look.legend) DrawLegend(d, plot, canvas);
+  if (look.legend) DrawLegend(d, LegendOf(plot), LegendCorner::UpperRight, canvas);
   diagram::SetDrawColour(diagram::kBlack, canvas);
   diagram::DrawXTitle(d, plot.xTitle, false, canvas);
   diagram::DrawYTitle(d, plot.yTitle, canvas);

@@ -5,6 +5,7 @@
 
 #include "diagram/canvas.h"
 #include "diagram/colour.h"
+#include "diagram/diagram_state.h"
 
 // A diagram of values against frequency, as the gain, stability and impedance windows draw it:
 // one curve per file and figure, named in place, with a heading, a title chosen by the window,
@@ -37,6 +38,25 @@ struct PlotLook {
   bool straight = false;  // lines straight from point to point, whatever spline says
   bool legend = true;
 };
+
+// A box of texts in a corner of the frame: a heading, each entry's name after a line in its
+// colour, and a footer.
+struct LegendEntry {
+  std::string name;
+  diagram::Colour colour = diagram::kBlack;
+};
+struct Legend {
+  std::string heading;
+  std::vector<LegendEntry> entries;
+  std::string footer;
+};
+enum class LegendCorner { UpperRight, LowerLeft };
+void DrawLegend(const diagram::Diagram& d, const Legend& legend, LegendCorner corner, diagram::Canvas& canvas);
+
+// The plot's legend: its heading, the curves and the highest frequency.
+Legend LegendOf(const FrequencyPlot& plot);
+// The title over the frame's right end; the heading and the comment in the bottom line.
+void DrawHeadings(const diagram::Diagram& d, const FrequencyPlot& plot, diagram::Canvas& canvas);
 
 // Every frequency and every value of the curves, for the autoscales.
 std::vector<double> AllFrequencies(const FrequencyPlot& plot);

@@ -92,8 +92,8 @@ TEST_F(RenderCommandTest, CartesianDrawsTheGainInDecibels) {
   const std::string path = Path("gain.png");
   ASSERT_EQ(Run({"--render", "cartesian", "--no-spline", "--out", path, input_}), 0) << err_.str();
   const QImage image(QString::fromStdString(path));
-  // |S21| = 4 is 12.04 dB; autoscaled to 0 .. 20 on rows 525 .. 41; 100 MHz to 1.9 GHz on a
-  // log axis from 100 MHz to 10 GHz over columns 66 .. 716, so 1 GHz is column 391.
+  // |S21| = 4 is 12.04 dB; autoscaled to 0 .. 20 on rows 525 .. 41; the transmission window's
+  // frequency axis from 0 to 1.9 GHz over columns 66 .. 716, so column 391 is 0.95 GHz.
   const int row = static_cast<int>(std::lround(525 - 484 * 20 * std::log10(4.0) / 20));
   bool red = false;
   for (int dy = -1; dy <= 1; ++dy) red = red || image.pixel(391, row + dy) == qRgb(255, 0, 0);
@@ -124,6 +124,21 @@ TEST_F(RenderCommandTest, GainCurvesAreTheFiguresColumns) {
   EXPECT_EQ(rows, 19);
 }
 
+// The reflection window's |S22| against frequency, as its curve export writes it.
+TEST_F(RenderCommandTest, ReflectionMagnitudeTable) {
+  const std::string csv = Path("s22.csv");
+  ASSERT_EQ(Run({"--render", "reflection", "--mode", "mag", "--param", "s22", "--data", csv, "--out", Path("s22.png"),
+                 input_}),
+            0)
+      << err_.str();
+  std::istringstream table(ReadFile(csv));
+  std::string header, first;
+  std::getline(table, header);
+  std::getline(table, first);
+  EXPECT_EQ(header, "f_Hz,|S22| (dut.s2p)");
+  EXPECT_EQ(first, "100000000,0.8");
+}
+
 struct ErrorCase {
   const char* name;
   const char* args;  // split at blanks; "@" stands for the fixture, "%" for a path in the folder
@@ -147,7 +162,7 @@ TEST_P(CommandErrorTest, ExitsWithOneAndSaysWhatToDo) {
 INSTANTIATE_TEST_SUITE_P(
     Cases, CommandErrorTest,
     testing::Values(
-        ErrorCase{"render_unknown_view", "--render spider --out % @", "unknown view \"spider\"; use smith, polar, cartesian or gain"},
+        ErrorCase{"render_unknown_view", "--render spider --out % @", "unknown view \"spider\"; use smith, polar, cartesian, gain, reflection or transmission"},
         ErrorCase{"render_unknown_extension", "--render smith --out x.tif @", "end the name in .png, .bmp, .jpg, .gif or .pdf"},
         ErrorCase{"render_missing_file", "--render smith --out % /nonexistent/amp.s2p", "File /nonexistent/amp.s2p is not present!"},
         ErrorCase{"render_no_file", "--render smith --out %", "name one to four S-parameter files"},
@@ -160,6 +175,9 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorCase{"render_option_without_value", "--render smith @ --out", "--out needs a value"},
         ErrorCase{"render_unknown_option", "--render smith --colour --out % @", "unknown option \"--colour\""},
         ErrorCase{"render_gain_option_elsewhere", "--render polar --xlog --out % @", "belong to the gain view"},
+        ErrorCase{"render_smith_transmission", "--render transmission --mode smith --out % @", "has no Smith chart"},
+        ErrorCase{"render_wrong_param", "--render reflection --param s21 --out % @", "--param takes s11, s22 or both"},
+        ErrorCase{"render_circles_elsewhere", "--render polar --circles 2G --out % @", "belong to the reflection view"},
         ErrorCase{"render_bad_curves", "--render gain --curves mag,k --out % @", "--curves takes mag, u, mug and s21"},
         ErrorCase{"render_view_missing", "--render --out % @", "the view comes first"},
         // The views of a bias series take the options of --series.

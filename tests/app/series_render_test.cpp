@@ -34,8 +34,13 @@ class SeriesRenderTest : public CommandTest {
     return QImage(QString::fromStdString(path)).convertToFormat(QImage::Format_RGB32);
   }
   static bool GreenIn(const QImage& image, int column, int top, int bottom) {
-    for (int row = top; row <= bottom; ++row) {
-      if (image.pixel(column, row) == kGreenPixel) return true;
+    return ColourIn(image, QRect(column, top, 1, bottom - top + 1), kGreenPixel);
+  }
+  static bool ColourIn(const QImage& image, const QRect& area, QRgb colour) {
+    for (int row = area.top(); row <= area.bottom(); ++row) {
+      for (int column = area.left(); column <= area.right(); ++column) {
+        if (image.pixel(column, row) == colour) return true;
+      }
     }
     return false;
   }
@@ -51,6 +56,9 @@ TEST_F(SeriesRenderTest, FtFmaxPlotsFtAgainstTheCurrent) {
   EXPECT_EQ(image.pixel(154, 137), kGreenPixel);
   EXPECT_EQ(image.pixel(260, 74), kGreenPixel);
   EXPECT_FALSE(GreenIn(image, 181, 120, 122));  // between the points: not joined
+  // No point lies in the top right corner: the legend's markers do.
+  EXPECT_TRUE(ColourIn(image, QRect(300, 28, 66, 40), kGreenPixel));
+  EXPECT_TRUE(ColourIn(image, QRect(300, 28, 66, 40), qRgb(255, 0, 0)));
 }
 
 TEST_F(SeriesRenderTest, SeriesOptionsReachTheGraph) {

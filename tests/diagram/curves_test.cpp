@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 #include "diagram/current.h"
+#include "diagram/curve_names.h"
 #include "diagram/scaling.h"
 #include "picture.h"
 
@@ -90,18 +92,40 @@ TEST_F(CurveTest, TheTextStartsOrEndsAtTheFirstPoint) {
   EXPECT_EQ(CountNotWhite(image, QRect(XToPixel(d_, 2) - 30, row2 + 1, 29, 10)), 0);
 }
 
-// Regression: a name at the left rim of a Smith chart was cut off.
-TEST_F(CurveTest, CurveNamesStayWholeInsideThePicture) {
-  const std::string name = "a rather long name of a curve";
-  const auto ink = [&](double x, double y, bool textLeft) {  // a curve of one point is its name alone
-    Picture p(400, 300);
-    DrawCurveWithText(d_, std::vector<double>{x}, std::vector<double>{y}, textLeft, 1, p.canvas(), name);
-    return CountNotWhite(p.Finish(), QRect(0, 0, 400, 300));
-  };
-  const int whole = ink(5, 5, false);
-  EXPECT_GT(whole, 50);
-  EXPECT_EQ(ink(0, 5, true), whole);    // would end left of the picture
-  EXPECT_EQ(ink(10, 0, false), whole);  // would run out on the right
+// Four loci starting at one point by the right edge, on a tick label: every name stays whole
+// inside the picture, clear of the label and of the other names.
+TEST_F(CurveTest, NamesOfCurvesStartingTogetherStayInsideAndApart) {
+  Canvas& c = picture_.canvas();
+  c.TextOut(350, 140, "1k");
+  const std::vector<double> x = {9.8, 9}, y = {5, 6};
+  for (const char* name : {"first.s2p, S11 ", "second.s2p, S11 ", "third.s2p, S11 ", "fourth.s2p, S11 "}) {
+    DrawCurveWithText(d_, x, y, false, 2, c, name);
+  }
+  const std::vector<QRect>& texts = c.WrittenTexts();
+  ASSERT_EQ(texts.size(), 1u + 4 * 9);  // each name over a halo of eight copies
+  std::vector<QRect> boxes = {texts.front()};
+  for (std::size_t i = 0; i < 4; ++i) boxes.push_back(texts[9 * i + 9]);
+  for (std::size_t a = 0; a < boxes.size(); ++a) {
+    EXPECT_TRUE(QRect(0, 0, 400, 300).contains(boxes[a])) << a;
+    for (std::size_t b = 0; b < a; ++b) EXPECT_FALSE(boxes[a].intersects(boxes[b])) << a << " " << b;
+  }
+}
+
+// Names of 60 x 13 pixels in a picture of 400 x 300: where they are wanted, the texts there
+// already, and where they go.
+TEST(PlaceText, TakesTheNearestFreePlaceInsideThePicture) {
+  const std::tuple<QRect, std::vector<QRect>, QPoint> cases[] = {
+      {{100, 100, 60, 13}, {}, {100, 100}},
+      {{-30, 100, 60, 13}, {}, {0, 100}},  // regression: a name at the left rim of a Smith chart was cut off
+      {{370, 295, 60, 13}, {}, {340, 287}},
+      {{100, 100, 60, 13}, {{150, 105, 20, 13}}, {100, 87}},  // a line up
+      {{100, 100, 60, 13}, {{100, 80, 60, 30}}, {100, 113}},  // else a line down
+      {{-5, 100, 60, 13}, {{0, 0, 400, 300}}, {0, 100}}};     // nowhere free: inside at least
+  for (const auto& [wanted, taken, expected] : cases) {
+    const QRect placed = PlaceText(wanted, QRect(0, 0, 400, 300), taken);
+    EXPECT_EQ(placed.topLeft(), expected) << wanted.x() << " " << taken.size();
+    EXPECT_EQ(placed.size(), wanted.size());
+  }
 }
 
 // The argument-free entry points pass their arguments on in the order the names give them.

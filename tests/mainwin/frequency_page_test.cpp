@@ -14,6 +14,8 @@
 
 #include "controls/spin_button.h"
 #include "graphwin/gwin.h"
+#include "graphwin/phiwin.h"
+#include "graphwin/vuwin.h"
 #include "fixtures.h"
 #include "mainwin/history_list.h"
 #include "numerics/data_set.h"
@@ -230,15 +232,16 @@ void FrequencyPageTest::DiagramButtonSetsDisplayMode_data() {
   QTest::addColumn<QString>("button");
   QTest::addColumn<M>("mode");
   QTest::addColumn<bool>("connect");
-  QTest::newRow("S11") << "SpeedButton1" << M::InputReflection << true;
-  QTest::newRow("S22") << "SpeedButton2" << M::OutputReflection << false;
-  QTest::newRow("S11 - S22") << "SpeedButton6" << M::BothReflections << true;
-  QTest::newRow("S21") << "SpeedButton3" << M::ForwardTransmission << false;
-  QTest::newRow("S12") << "SpeedButton4" << M::ReverseTransmission << true;
-  QTest::newRow("S21 - S12") << "SpeedButton5" << M::BothTransmissions << false;
-  QTest::newRow("gain") << "SpeedButtonGain" << M::Gain << true;
-  QTest::newRow("stability") << "SpeedButtonk" << M::Stability << false;
-  QTest::newRow("impedance") << "SpeedButtonZ" << M::Impedance << true;
+  QTest::addColumn<QString>("legend");  // of the reflection or transmission window it opens
+  QTest::newRow("S11") << "SpeedButton1" << M::InputReflection << true << "S11";
+  QTest::newRow("S22") << "SpeedButton2" << M::OutputReflection << false << "S22";
+  QTest::newRow("S11 - S22") << "SpeedButton6" << M::BothReflections << true << "S11 & S22";
+  QTest::newRow("S21") << "SpeedButton3" << M::ForwardTransmission << false << "S21";
+  QTest::newRow("S12") << "SpeedButton4" << M::ReverseTransmission << true << "S12";
+  QTest::newRow("S21 - S12") << "SpeedButton5" << M::BothTransmissions << false << "S21 & S12";
+  QTest::newRow("gain") << "SpeedButtonGain" << M::Gain << true << "";
+  QTest::newRow("stability") << "SpeedButtonk" << M::Stability << false << "";
+  QTest::newRow("impedance") << "SpeedButtonZ" << M::Impedance << true << "";
 }
 
 void FrequencyPageTest::DiagramButtonSetsDisplayMode() {
@@ -250,6 +253,13 @@ void FrequencyPageTest::DiagramButtonSetsDisplayMode() {
   QTest::mouseClick(Find<QPushButton>(qPrintable(button)), Qt::LeftButton);
   QCOMPARE(Window().CurrentDisplayMode(), mode);
   QCOMPARE(Window().ConnectForWindows(), connect);
+  QFETCH(QString, legend);
+  if (legend.isEmpty()) return;
+  const bool reflection = mode <= graphwin::DisplayMode::BothReflections;
+  const graphwin::TSParameterForm* shown = reflection ? static_cast<graphwin::TSParameterForm*>(forms_->FormPhi())
+                                                      : forms_->FormVu();
+  QVERIFY(shown->isVisible());
+  QCOMPARE(QString::fromStdString(shown->Plot().curves.legendHeading), legend);
 }
 
 void FrequencyPageTest::GainWindowTakesThePageAsItIs() {

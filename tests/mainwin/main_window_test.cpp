@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -55,7 +56,8 @@ class MainWindowTest : public QObject, mainwin_test::WindowSession {
   void OutputPagesNeedTwoSeriesFiles();
   void TabsCarryThePageCaptions();
   void HelpShowsTheBoxOfThePage();
-  void StayInFrontToggles();
+  void ToolsThatStartNothingSayWhatWasTried_data();
+  void ToolsThatStartNothingSayWhatWasTried();
   void ReadTouchstoneFilesIsKeptAndOffersTheAutomaticMultiplier();
   void EveryExitClosesTheWindow_data();
   void EveryExitClosesTheWindow();
@@ -235,16 +237,27 @@ void MainWindowTest::HelpShowsTheBoxOfThePage() {
   QVERIFY(!forms_->HilfeBox()->isVisible());
 }
 
-void MainWindowTest::StayInFrontToggles() {
+void MainWindowTest::ToolsThatStartNothingSayWhatWasTried_data() {
+  QTest::addColumn<QString>("item");
+  QTest::addColumn<QString>("message");
+  QTest::newRow("calculator") << "Calculator1" << "\"Calculator\" started nothing: none of gnome-calculator, kcalc,";
+  QTest::newRow("mail") << "EMail1"
+                        << "\"E-Mail to the Author\" started nothing: the desktop has no program that opens mailto:";
+}
+
+// With an empty search path, and no desktop on the test platform, nothing can be started.
+void MainWindowTest::ToolsThatStartNothingSayWhatWasTried() {
+  QFETCH(QString, item);
+  QFETCH(QString, message);
+  const QByteArray path = qgetenv("PATH");
+  const auto restore = qScopeGuard([&] { qputenv("PATH", path); });
+  qputenv("PATH", dir_.path().toLocal8Bit());
   Start();
-  auto* item = Find<QAction>("ImmerimVordergrund1");
-  QCOMPARE(item->text(), QStringLiteral("Always Stay in &Front"));
-  item->trigger();
-  QVERIFY(item->isChecked());
-  QVERIFY(Window().windowFlags() & Qt::WindowStaysOnTopHint);
-  item->trigger();
-  QVERIFY(!item->isChecked());
-  QVERIFY(!(Window().windowFlags() & Qt::WindowStaysOnTopHint));
+  mainwin_test::MessageLog log;
+  Find<QAction>(qPrintable(item))->trigger();
+  QCOMPARE(log.Messages().size(), 1);
+  QVERIFY2(log.Messages().front().startsWith(message) && log.Messages().front().endsWith(", then try again!"),
+           qPrintable(log.Messages().front()));
 }
 
 void MainWindowTest::ReadTouchstoneFilesIsKeptAndOffersTheAutomaticMultiplier() {

@@ -8,29 +8,48 @@
 namespace series {
 namespace {
 
+using Texts = std::vector<std::string>;
+
 struct PathCase {
   const char* name;
-  std::string (*shorten)(const std::string&);
-  std::string path;
-  std::string text;
+  Texts (*shorten)(const Texts&);
+  Texts paths;
+  Texts texts;
 };
 
 class PathTextTest : public testing::TestWithParam<PathCase> {};
 
-TEST_P(PathTextTest, ShortensLongPaths) { EXPECT_EQ(GetParam().shorten(GetParam().path), GetParam().text); }
+TEST_P(PathTextTest, ShortensLongPaths) { EXPECT_EQ(GetParam().shorten(GetParam().paths), GetParam().texts); }
+
+const std::string kDeep = "/home/engineer/measurements/lot7/";
 
 INSTANTIATE_TEST_SUITE_P(
     Paths, PathTextTest,
     testing::Values(
-        PathCase{"TableThirtyCharacters", TablePathText, "/home/a/series/bjt_01_0.5m.s2p", "/home/a/series/bjt_01_0.5m.s2p"},
-        PathCase{"TableThirtyOneCharacters", TablePathText, "/home/ab/series/bjt_01_0.5m.s2p", "/home/a...bjt_01_0.5m.s2p"},
+        PathCase{"TableThirtyCharacters", TablePathTexts, {"/home/a/series/bjt_01_0.5m.s2p"},
+                 {"/home/a/series/bjt_01_0.5m.s2p"}},
+        PathCase{"TableThirtyOneCharacters", TablePathTexts, {"/home/ab/series/bjt_01_0.5m.s2p"},
+                 {"/home/a...bjt_01_0.5m.s2p"}},
         // Umlauts count as one character each and are never cut in half.
-        PathCase{"TableUtf8", TablePathText, "/hö/jürgen/Messungen/Lötstelle_Ü_40mA.s2p", "/hö/jür...elle_Ü_40mA.s2p"},
-        PathCase{"TableUtf8ThirtyCharacters", TablePathText, "/home/jürgen/Lötstelle_5mA.s2p", "/home/jürgen/Lötstelle_5mA.s2p"},
-        PathCase{"FileListThirtyFourCharacters", FileListPathText, "/home/engineer/series/bjt_0.5m.s2p",
-                 "/home/engineer/series/bjt_0.5m.s2p"},
-        PathCase{"FileListThirtyFiveCharacters", FileListPathText, "/home/engineer/series/bjt_0.5mA.s2p",
-                 "/home/engineer/se...eries/bjt_0.5mA.s2p"}),
+        PathCase{"TableUtf8", TablePathTexts, {"/hö/jürgen/Messungen/Lötstelle_Ü_40mA.s2p"},
+                 {"/hö/jür...elle_Ü_40mA.s2p"}},
+        PathCase{"FileListThirtyFourCharacters", FileListPathTexts, {"/home/engineer/series/bjt_0.5m.s2p"},
+                 {"/home/engineer/series/bjt_0.5m.s2p"}},
+        PathCase{"FileListThirtyFiveCharacters", FileListPathTexts, {"/home/engineer/series/bjt_0.5mA.s2p"},
+                 {"/home/engineer/se...eries/bjt_0.5mA.s2p"}},
+        // Names alike in their last 19 characters show from the word where they differ, at the
+        // cost of their shared beginning; the file told apart already, and the same file twice,
+        // keep the rule's text.
+        PathCase{"FileListTellsLikeEndingsApart", FileListPathTexts,
+                 {kDeep + "HBT_Ic=0.5mA_Vce=1.5V_T=25C.s2p", kDeep + "HBT_Ic=1.0mA_Vce=1.5V_T=25C.s2p",
+                  kDeep + "HBT_Ic=2.0mA_Vce=1.5V_T=25C.s2p", kDeep + "other.s2p", kDeep + "other.s2p"},
+                 {"/home/eng...Ic=0.5mA_Vce=1.5V_T=25C.s2p", "/home/eng...Ic=1.0mA_Vce=1.5V_T=25C.s2p",
+                  "/home/eng...Ic=2.0mA_Vce=1.5V_T=25C.s2p", "/home/engineer/me...ents/lot7/other.s2p",
+                  "/home/engineer/me...ents/lot7/other.s2p"}},
+        // Alike names in different folders show the folder.
+        PathCase{"TableShowsTheFolder", TablePathTexts,
+                 {kDeep + "run1/device_a_meas.s2p", kDeep + "run2/device_a_meas.s2p"},
+                 {"/...run1/device_a_meas.s2p", "/...run2/device_a_meas.s2p"}}),
     [](const testing::TestParamInfo<PathCase>& info) { return std::string(info.param.name); });
 
 TEST(TableCells, WritesEachColumnInItsFormat) {

@@ -6,6 +6,7 @@
 
 #include "diagram/curves.h"
 #include "diagram/pages/graph_data.h"
+#include "diagram/pages/read_out.h"
 
 namespace diagram::pages {
 namespace {
@@ -57,6 +58,7 @@ struct GraphCase {
   std::vector<std::vector<double>> series;
   double leastYMax;
   bool legend;
+  const char* names;  // the series' names as the legend inside the picture shows them, joined by "|"
   bool crosses = true;  // the first series shown is fT, k or f(k>1): green crosses, else red circles
 };
 
@@ -73,6 +75,9 @@ TEST_P(PageGraphTest, ShowsTheChosenSeries) {
   EXPECT_EQ(graph.series.front().marker, GetParam().crosses ? diagram::kMarkerCross : diagram::kMarkerCircle);
   EXPECT_EQ(graph.leastYMax, GetParam().leastYMax);
   EXPECT_EQ(BothSeriesShown(GetParam().page, scene.choice), GetParam().legend);
+  std::string names;
+  for (const PlotSeries& s : graph.series) names += (names.empty() ? "" : "|") + s.name;
+  EXPECT_EQ(names, GetParam().names);
 }
 
 constexpr GraphicChoice kAll{};
@@ -80,19 +85,19 @@ constexpr GraphicChoice kFTOnly{true, false, false, false};
 constexpr GraphicChoice kFmaxOnly{false, true, false, false};
 constexpr GraphicChoice kMagOnly{false, false, true, false};
 constexpr GraphicChoice kKOnly{false, false, false, true};
-constexpr GraphicChoice kFTAndMag{true, false, true, false};
 
 INSTANTIATE_TEST_SUITE_P(
     Choices, PageGraphTest,
     testing::Values(
-        GraphCase{"FtFmaxBoth", OutputPage::FtFmax, kAll, "fT & fmax in Hz", {{10e9, 20e9, 25e9}, {16e9, 30e9, 35e9}}, 0, true},
-        GraphCase{"FtOnly", OutputPage::FtFmax, kFTOnly, "fT in Hz", {{10e9, 20e9, 25e9}}, 0, false},
-        GraphCase{"FmaxOnly", OutputPage::FtFmax, kFmaxOnly, "fmax in Hz", {{16e9, 30e9, 35e9}}, 0, false, false},
-        GraphCase{"KTimesTenAndMag", OutputPage::KMag, kAll, "k (x10), MAG+MSG in dB", {{8, 12, 25}, {12.5, 15, 16.5}}, 15, true},
-        GraphCase{"KOnlyUnscaled", OutputPage::KMag, kKOnly, "k Factor", {{0.8, 1.2, 2.5}}, 0, false},
-        GraphCase{"MagOnly", OutputPage::KMag, kMagOnly, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, false},
-        GraphCase{"FtAndMagOnTheGainPage", OutputPage::KMag, kFTAndMag, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, false},
-        GraphCase{"StabilityLimit", OutputPage::StabilityLimit, kAll, "f(k>1) in Hz", {{0, 3e9, 1e9}}, 0, false}),
+        GraphCase{"FtFmaxBoth", OutputPage::FtFmax, kAll, "fT & fmax in Hz", {{10e9, 20e9, 25e9}, {16e9, 30e9, 35e9}}, 0,
+                  true, "fT|fmax"},
+        GraphCase{"FtOnly", OutputPage::FtFmax, kFTOnly, "fT in Hz", {{10e9, 20e9, 25e9}}, 0, false, "fT"},
+        GraphCase{"FmaxOnly", OutputPage::FtFmax, kFmaxOnly, "fmax in Hz", {{16e9, 30e9, 35e9}}, 0, false, "fmax", false},
+        GraphCase{"KTimesTenAndMag", OutputPage::KMag, kAll, "k (x10), MAG+MSG in dB", {{8, 12, 25}, {12.5, 15, 16.5}}, 15,
+                  true, "k (x10)|MAG/MSG"},
+        GraphCase{"KOnlyUnscaled", OutputPage::KMag, kKOnly, "k Factor", {{0.8, 1.2, 2.5}}, 0, false, "k"},
+        GraphCase{"MagOnly", OutputPage::KMag, kMagOnly, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, "MAG/MSG", false},
+        GraphCase{"StabilityLimit", OutputPage::StabilityLimit, kAll, "f(k>1) in Hz", {{0, 3e9, 1e9}}, 0, false, "f(k>1)"}),
     [](const testing::TestParamInfo<GraphCase>& info) { return std::string(info.param.name); });
 
 // The warning stands in the axis title when no limit exceeds 1e-6 Hz, or there is no file.
@@ -104,6 +109,33 @@ TEST(UnstableTitle, WarnsInTheAxisTitleWhenNoFileHasALimit) {
     PageScene scene;
     for (const double limit : fk) scene.results.push_back({.fk = limit});
     EXPECT_EQ(GraphOf(OutputPage::StabilityLimit, scene).yTitle, title) << fk.size();
+  }
+}
+
+// Without a choice the gain page's axis holds MAG in dB and ten times k: 12.3 reads both ways.
+TEST(ReadOut, NamesBothAxesWithTheirUnits) {
+  using enum series::XAxisChoice;
+  struct Case {
+    OutputPage page;
+    series::XAxisChoice xAxis;
+    bool density;
+    GraphicChoice choice;
+    double x, y;
+    std::string text;
+  };
+  const Case cases[] = {
+      {OutputPage::FtFmax, CurrentIc, false, kAll, 15.18e-3, 28.64e9, "Ic = 15.18 mA, fT, fmax = 28.64 GHz"},
+      {OutputPage::FtFmax, CurrentId, false, kFTOnly, 5e-6, 2e9, "Id = 5.00 µA, fT = 2.00 GHz"},
+      {OutputPage::StabilityLimit, CurrentIc, true, kAll, 0.0304, 1.5e9, "j = 0.030 mA/µm², f(k>1) = 1.50 GHz"},
+      {OutputPage::KMag, FileNumber, true, kAll, 2.6, 12.3, "File Number = 3, MAG/MSG = 12.30 dB, k = 1.230"},
+      {OutputPage::KMag, CurrentIc, false, kKOnly, 1e-3, 1.23, "Ic = 1.00 mA, k = 1.230"},
+      {OutputPage::KMag, CurrentIc, false, kMagOnly, 1e-3, 12.3, "Ic = 1.00 mA, MAG/MSG = 12.30 dB"}};
+  for (const Case& c : cases) {
+    PageScene scene;
+    scene.settings.xAxis = c.xAxis;
+    scene.settings.density = c.density;
+    scene.choice = c.choice;
+    EXPECT_EQ(ReadOutText(c.page, scene, c.x, c.y), c.text);
   }
 }
 

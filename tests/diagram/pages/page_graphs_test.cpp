@@ -5,7 +5,10 @@
 #include <tuple>
 
 #include "diagram/current.h"
+#include "diagram/curves.h"
+#include "diagram/pages/graph_legend.h"
 #include "diagram/pages/page_graphs.h"
+#include "diagram/scaling.h"
 
 namespace diagram::pages {
 namespace {
@@ -51,6 +54,30 @@ TEST(PageGraphs, MarksFtWithGreenCrossesAndFmaxWithRedCircles) {
   EXPECT_EQ(image.pixel(260, 145), kGreenPixel);  // 2 mA, 20 GHz
   EXPECT_TRUE(AnyIn(image, 154, 169, 3, kRedPixel));  // 1 mA, 16 GHz: the circle hangs right of and below it
   EXPECT_TRUE(AnyIn(image, 260, 86, 3, kRedPixel));   // 2 mA, 30 GHz
+}
+
+// The top right of the frame holds no point: the legend goes there, with both markers.
+TEST(PageGraphs, TheLegendStandsInTheFreeCorner) {
+  const QImage image = Draw(OutputPage::FtFmax, TwoFiles());
+  EXPECT_TRUE(AnyIn(image, 300, 28, 40, kGreenPixel));
+  EXPECT_TRUE(AnyIn(image, 300, 28, 40, kRedPixel));
+}
+
+// A 400 x 300 frame of 0 .. 10 on both axes: columns 48 .. 366, rows 27 .. 263. A box of 60 x 30
+// goes to the top right (302, 31), else the top left (52, 31), bottom right (302, 229), bottom left.
+TEST(LegendBox, TakesTheCornerFreeOfTextsWithTheFewestPoints) {
+  diagram::Diagram d;
+  diagram::SetupAxes(d, kWidth, kHeight, 10, 0, 10, 0);
+  const std::vector<QRect> titleOnTop = {QRect(40, 20, 340, 20)};
+  const std::tuple<std::vector<double>, std::vector<double>, std::vector<QRect>, QPoint> cases[] = {
+      {{}, {}, {}, {302, 31}},
+      {{9.5}, {9.5}, {}, {52, 31}},
+      {{}, {}, titleOnTop, {302, 229}},
+      {{9.5, 9, 0.5, 9.5, 0.5}, {9.5, 9, 9.5, 0.5, 0.5}, {}, {52, 31}}};  // two points top right, one elsewhere
+  for (const auto& [x, y, texts, corner] : cases) {
+    const PageGraph graph{x, {{y, diagram::kGreen, diagram::kMarkerCross, "fT"}}, "", ""};
+    EXPECT_EQ(LegendBox(d, graph, QSize(60, 30), texts).topLeft(), corner) << x.size() << texts.size();
+  }
 }
 
 TEST(PageGraphs, TheLargestCurrentKeepsItsMarker) {

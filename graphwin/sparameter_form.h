@@ -1,0 +1,63 @@
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "graph_form.h"
+#include "plots/sparameter_plot.h"
+
+class QActionGroup;
+
+// What the reflection and the transmission windows share on top of the common window: the
+// display modes of "&Scales", the curves of the chosen parameters, their read-out, the bounds
+// of the axis dialog, the refusal of a logarithmic x axis in the polar diagram and the Smith
+// chart, bitmap printing and the printer set-up.
+namespace graphwin {
+
+class TSParameterForm : public TGraphForm {
+  Q_OBJECT
+
+ public:
+  const plots::SParameterPlot& Plot() const { return plot_; }
+
+ protected:
+  // startView: the display mode each activation returns to.
+  TSParameterForm(const char* name, plots::SWindow window, plots::SView startView, InputsSource inputs,
+                  const GraphDialogs& dialogs);
+
+  // A checkable item at the top of "&Scales" that shows the view from its starting ranges.
+  QAction* AddViewItem(const char* name, const QString& caption, plots::SView view);
+  plots::SView View() const { return view_; }
+  // The printer set-up item of "&File".
+  void AddPrinterSetupItem(const char* name);
+
+  // What the window adds to its loci; the Smith chart labelled at the page's Z0.
+  virtual plots::LocusLook Locus() const;
+  // The factor S12 is magnified by in the polar diagram.
+  virtual double S12Zoom() const { return 1; }
+
+  void ComputeCurves() override;
+  void ResetScale(diagram::Diagram& d) override;
+  void DrawPicture(diagram::Canvas& canvas) override;
+  std::string ReadOutText(double x, double y) const override;
+  Bounds AxisBounds(AxisEnd end) const override;
+  std::vector<double> XValues() const override;
+  std::vector<double> YValues() const override;
+  std::string CurvesCsv() const override;
+  std::string LogXRefusal() const override;
+  bool PrintsBitmap() const override { return true; }
+
+ private:
+  void SetView(plots::SView view);
+  void CheckViewItem();
+
+  plots::SWindow window_;
+  plots::SView startView_;
+  plots::SView view_;
+  plots::SParameterChoice choice_;
+  plots::SParameterPlot plot_;
+  QActionGroup* viewItems_ = nullptr;
+  std::vector<std::pair<plots::SView, QAction*>> viewActions_;
+};
+
+}  // namespace graphwin

@@ -1,0 +1,185 @@
+// The reflection and transmission windows driven through their controls by name, offscreen.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <memory>
+
+#include "controls/dialog_hooks.h"
+#include "controls/message_box.h"
+#include "controls/spin_button.h"
+#include "diagram/scaling.h"
+#include "gain_fixture.h"
+#include "graphwin/graph_image.h"
+#include "graphwin/grhilfe.h"
+#include "graphwin/phiwin.h"
+#include "graphwin/qkreis.h"
+#include "graphwin/vuwin.h"
+#include "graphwin/xmax_dlg.h"
+
+namespace graphwin {
+namespace {
+
+// Answers each modal dialog by typing the next text and OK, and keeps the dialogs' titles.
+class Answers {
+ public:
+  explicit Answers(QStringList typed)
+      : interception_([this, typed](QDialog& dialog) {
+          titles_.append(dialog.windowTitle());
+          auto* edit = dialog.findChild<QLineEdit*>();
+          edit->selectAll();
+          QTest::keyClicks(edit, typed.value(static_cast<int>(titles_.size()) - 1));
+          dialog.findChild<QPushButton*>("OKBtn")->click();
+          return dialog.result();
+        }) {}
+  QStringList titles_;
+
+ private:
+  controls::ModalInterception interception_;
+};
+
+template <typename Form>
+class SParameterWindowTest : public testing::Test {
+ protected:
+  SParameterWindowTest() {
+    diagram::CurrentDiagram() = {};
+    inputs_.files = {{set_.get(), "/data/dut.s2p", true}};
+    inputs_.mode = std::is_same_v<Form, TFormPhi> ? DisplayMode::InputReflection : DisplayMode::BothTransmissions;
+    window_ = std::make_unique<Form>([this] { return inputs_; }, dialogs_);
+    window_->ShowFromMain();
+  }
+  template <typename T>
+  T* Find(const char* name) {
+    T* found = window_->template findChild<T*>(name);
+    if (!found) throw std::runtime_error(std::string("no control ") + name);
+    return found;
+  }
+  const diagram::Diagram& State() { return diagram::CurrentDiagram(); }
+  // The x-log refusal's text, with the check mark left as it was.
+  QString RefusedLogX() {
+    QString said;
+    controls::MessageInterception messages([&](const QString& text) { said = text; });
+    Find<QAction>("xlog1")->trigger();
+    EXPECT_FALSE(Find<QAction>("xlog1")->isChecked());
+    return said;
+  }
+
+  std::unique_ptr<numerics::TwoPortDataSet> set_ = graphwin_test::MakeDataSet(5, 1e9, 1e9);
+  plots::GraphInputs inputs_;
+  TGRHilfeBox help_;
+  TXmaxDlg1 axis_;
+  TQcircle qCircle_;
+  GraphDialogs dialogs_{&help_, &axis_, &qCircle_};
+  std::unique_ptr<Form> window_;
+};
+
+using ReflectionWindowTest = SParameterWindowTest<TFormPhi>;
+using TransmissionWindowTest = SParameterWindowTest<TFormVu>;
+
+TEST_F(ReflectionWindowTest, OpensAtTheSmithChartOfTheChosenParameter) {
+  EXPECT_EQ(window_->windowTitle(), "S-Parameters");
+  EXPECT_TRUE(Find<QAction>("SmithDiagramm1")->isChecked());
+  EXPECT_EQ(window_->Plot().curves.legendHeading, "S11");
+  EXPECT_EQ(State().xMode, diagram::AxisMode::Smith);
+  EXPECT_EQ(State().xStep, 0.05);  // NiceStep(2 / 50)
+  EXPECT_EQ(RefusedLogX(), "log not available for Smith chart!");
+  Find<QAction>("Polar1")->trigger();
+  EXPECT_FALSE(Find<QAction>("SmithDiagramm1")->isChecked());
+  EXPECT_EQ(RefusedLogX(), "log not available for polar diagram!");
+  Find<QAction>("Sii11")->trigger();  // |S11| = 0 up to 5 GHz
+  EXPECT_EQ(State().xMax, 5e9);
+  EXPECT_EQ(State().yMax, 1);
+  Find<QAction>("xlog1")->trigger();
+  EXPECT_EQ(State().xMode, diagram::AxisMode::Log);
+  window_->ShowFromMain();
+  EXPECT_TRUE(Find<QAction>("SmithDiagramm1")->isChecked());
+  EXPECT_FALSE(Find<QAction>("xlog1")->isChecked());
+}
+
+// The Smith chart fits one pixel scale to its picture; sizes that come and go change nothing.
+TEST_F(ReflectionWindowTest, ResizingKeepsTheRange) {
+  window_->resize(900, 420);
+  const diagram::Diagram wide = State();
+  window_->resize(420, 900);
+  window_->resize(900, 420);
+  EXPECT_EQ(State().xMin, wide.xMin);
+  EXPECT_EQ(State().yMax, wide.yMax);
+  EXPECT_EQ(State().yMax, 1);
+}
+
+TEST_F(ReflectionWindowTest, QDialogFillsTheTableAndDoubleClickDefinesTheOrigin) {
+  {
+    Answers answers({"0", "20k"});
+    Find<QAction>("constantQ1")->trigger();
+    Find<QAction>("constantQ1")->trigger();
+    EXPECT_EQ(answers.titles_, (QStringList{"Constant Q Circle", "Constant Q Circle"}));
+  }
+  EXPECT_EQ(window_->QTable().Values(), (std::vector<double>{0.01, 10000}));
+  EXPECT_TRUE(Find<QAction>("DelAllQ")->isEnabled());
+  Find<QAction>("DeleteQ")->trigger();
+  Find<QAction>("DeleteQ")->trigger();
+  EXPECT_FALSE(Find<QAction>("DeleteQ")->isEnabled());
+  EXPECT_FALSE(Find<QAction>("DelAllQ")->isEnabled());
+  Answers origin({"0.5", "0.2"});  // also in the Smith chart, unlike the other windows
+  QTest::mouseDClick(Find<TDiagramImage>("Image"), Qt::LeftButton);
+  EXPECT_EQ(origin.titles_.size(), 2);
+}
+
+TEST_F(ReflectionWindowTest, CirclesFollowTheChosenPoint) {
+  auto* spin = Find<controls::TSpinButton>("SpinButtonCircles");
+  EXPECT_FALSE(spin->isEnabled());
+  Find<QAction>("StabilityCircles1")->trigger();
+  EXPECT_EQ(Find<QLabel>("LabelCircles")->text(), "f=1.00GHz");
+  spin->DownButton()->click();  // round to the last point
+  EXPECT_EQ(Find<QLabel>("LabelCircles")->text(), "f=5.00GHz");
+  const QImage before = window_->Picture();
+  Find<QAction>("StabilityCircles1")->trigger();
+  EXPECT_NE(window_->Picture(), before);
+}
+
+TEST_F(TransmissionWindowTest, OpensPolarAtTheLargestMagnitudeAndZoomsS12) {
+  EXPECT_EQ(State().xMode, diagram::AxisMode::Polar);
+  EXPECT_EQ(State().yMax, 2);  // RoundUpOneDigit(|S21| = 2)
+  EXPECT_EQ(State().xStep, 0.1);
+  EXPECT_EQ(window_->Plot().curves.legendHeading, "S21 & S12");
+  auto* spin = Find<controls::TSpinButton>("SpinButtonS12Zoom");
+  spin->UpButton()->click();
+  spin->UpButton()->click();
+  EXPECT_EQ(window_->S12ZoomFactor(), 100);
+  EXPECT_TRUE(spin->toolTip().endsWith("now 100.0"));
+  EXPECT_EQ(window_->Plot().curves.curves[1].name, "dut.s2p, S12 x100.0");
+  EXPECT_EQ(RefusedLogX(), "log not available for polar diagram!");
+  QTest::mouseMove(Find<TDiagramImage>("Image"), {diagram::XToPixel(State(), 0), diagram::YToPixel(State(), 1)});
+  const QString readOut = Find<QLabel>("CurrentPanel")->text();  // |Sij| = 1 within a pixel
+  EXPECT_TRUE(readOut.startsWith("Position : |Sij|=") && readOut.endsWith("dB), Phi=90.0°")) << readOut.toStdString();
+  EXPECT_NEAR(readOut.mid(17, 5).toDouble(), 1, 0.01);
+}
+
+TEST_F(TransmissionWindowTest, PrintsAndExportsTheLocus) {
+  QTemporaryDir dir;
+  controls::DialogInterception answers(
+      [&](const controls::SaveDialogSetup&) { return dir.filePath("curves.csv"); },
+      [&](controls::PrinterDialog, QPrinter& printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(dir.filePath("page.pdf"));
+        return true;
+      });
+  Find<QAction>("Print1")->trigger();
+  Find<QAction>("ExportCurves1")->trigger();
+  QFile pdf(dir.filePath("page.pdf"));
+  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(pdf.read(5) == "%PDF-");
+  QFile csv(dir.filePath("curves.csv"));
+  ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
+  EXPECT_EQ(csv.readLine(), "f_Hz,Re(S21) (dut.s2p),Im(S21) (dut.s2p),Re(S12) (dut.s2p),Im(S12) (dut.s2p)\n");
+  EXPECT_EQ(csv.readLine(), "1000000000,2,0,0.1,0\n");
+}
+
+}  // namespace
+}  // namespace graphwin
