@@ -44,7 +44,12 @@ void TSDIAppForm::AppendSeriesFiles(const QStringList& paths) {
   if (inputPage_->AutoCalculate()) CalculateSeries();
 }
 
+// The whole list may hold forty files dropped from many folders: ask before it goes.
 void TSDIAppForm::SpeedButtonDeleteListClick() {
+  const std::size_t count = series_.SeriesCount();
+  if (count == 0) return;
+  const QString question = QStringLiteral("Remove all %1 files from the series list?").arg(count);
+  if (!controls::AskQuestion(this, question)) return;
   series_.DeleteAll();
   inputPage_->ShowFiles(series_.Paths());
 }

@@ -10,6 +10,7 @@
 #include <QTableWidget>
 #include <QToolButton>
 
+#include "controls/message_box.h"
 #include "fixtures.h"
 
 // Page 2: dropping files, the file list and its buttons, reordering, and the messages of the
@@ -131,16 +132,28 @@ void SeriesPageTest::DeleteButtonsShortenTheListAndClearRows() {
   QVERIFY(Row(3).isEmpty() && Hint(3).isEmpty());
   QVERIFY(!Row(2).isEmpty());
   QCOMPARE(Find<QLabel>("LabelNo")->text(), QStringLiteral("Number of files = 2"));
+  QStringList questions;
+  bool answer = false;
+  const controls::QuestionInterception asked([&](const QString& text) {
+    questions.append(text);
+    return answer;
+  });
   QTest::mouseClick(Find<QToolButton>("SpeedButtonDeleteList"), Qt::LeftButton);
+  QCOMPARE(SeriesPaths(), files.mid(0, 2));
+  answer = true;
+  QTest::mouseClick(Find<QToolButton>("SpeedButtonDeleteList"), Qt::LeftButton);
+  QCOMPARE(questions, QStringList(2, QStringLiteral("Remove all 2 files from the series list?")));
   QCOMPARE(Window().Series().SeriesCount(), std::size_t{0});
   QVERIFY(Row(1).isEmpty() && Row(2).isEmpty());
   QCOMPARE(Find<QLabel>("LabelNo")->text(), QStringLiteral("Number of files = 0"));
   // Once more on the empty list: nothing to remove, nothing to say.
   mainwin_test::MessageLog log;
   QTest::mouseClick(Find<QToolButton>("SpeedButtonDeletaLastFile"), Qt::LeftButton);
+  QTest::mouseClick(Find<QToolButton>("SpeedButtonDeleteList"), Qt::LeftButton);
   QCOMPARE(Window().Series().SeriesCount(), std::size_t{0});
   QCOMPARE(Find<QLabel>("LabelNo")->text(), QStringLiteral("Number of files = 0"));
   QVERIFY(log.Messages().isEmpty());
+  QCOMPARE(questions.size(), 2);
 }
 
 // Regression: names alike in their last characters showed as identical rows, cut short by the column.
