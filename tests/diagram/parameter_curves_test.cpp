@@ -64,8 +64,7 @@ TEST_F(ParameterCurvesTest, DrawsTheChosenParameterOnly) {
   const QImage& image = picture_.Finish();
   EXPECT_TRUE(RedNear(image, 0.9, 0));
   EXPECT_TRUE(RedNear(image, 0.9 * std::cos(-0.7), 0.9 * std::sin(-0.7)));  // -40 degrees, a measured point
-  EXPECT_FALSE(RedNear(image, 0.6, 0));
-  EXPECT_FALSE(RedNear(image, -0.3, 0));
+  EXPECT_FALSE(RedNear(image, 0.6, 0));  // S11
 }
 
 TEST_F(ParameterCurvesTest, MagnificationScalesBothParts) {
@@ -134,7 +133,6 @@ INSTANTIATE_TEST_SUITE_P(Cases, SplineCountTest,
                          testing::Values(CountCase{"three is never splined", 3, 300, 3},
                                          CountCase{"more than 300 asked", 4, 1000, 300},
                                          CountCase{"k below two", 200, 300, 200},
-                                         CountCase{"k exactly two", 150, 300, 300},
                                          CountCase{"uneven division", 7, 300, 294}));
 
 TEST(Spline, ReproducesAStraightLine) {

@@ -56,7 +56,6 @@ INSTANTIATE_TEST_SUITE_P(Pictures, GifRoundTripTest,
                                                    i.fill(QColor(0x12, 0x34, 0x56));
                                                    return i;
                                                  }},
-                                         GifCase{"three_colours", [] { return test::Noise(40, 30, 3, 1); }},
                                          GifCase{"all_256__with_clear_codes",
                                                  [] { return test::Noise(300, 200, 256, 2); }},
                                          GifCase{"17_colours__code_size_5", [] { return test::Noise(257, 3, 17, 3); }}),
