@@ -4,6 +4,7 @@
 
 #include "atomic_file.h"
 #include "output_safety.h"
+#include "series/check_texts.h"
 #include "series/series_evaluation.h"
 #include "series/series_messages.h"
 #include "series/spa_export.h"
@@ -21,6 +22,14 @@ bool WriteTable(const std::string& content, const SeriesOptions& options, std::o
   if (WriteFileAtomically(*options.outPath, content, error)) return true;
   err << error << '\n';
   return false;
+}
+
+// One line per file; they go to standard output also when the table goes to a file, which stays
+// exactly the table.
+bool WriteChecks(const series::SeriesList& list, const series::SeriesArrays& arrays, std::ostream& out,
+                 std::ostream& err) {
+  for (std::size_t i = 0; i < arrays.size(); ++i) out << series::CheckLineText(list.Path(i), arrays[i]) << '\n';
+  return StandardOutputWritten(out, err, "netrix --series", "the checks");
 }
 
 }  // namespace
@@ -54,7 +63,8 @@ int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, st
     const std::string warning = series::NonFiniteWarning(list.Path(i), arrays[i]);
     if (!warning.empty()) err << "netrix --series: " << warning << '\n';
   }
-  return WriteTable(series::SpaContent(list, arrays, options.settings), options, out, err) ? 0 : 1;
+  if (!WriteTable(series::SpaContent(list, arrays, options.settings), options, out, err)) return 1;
+  return !options.checks || WriteChecks(list, arrays, out, err) ? 0 : 1;
 }
 
 std::string SeriesUsageText() {
@@ -73,7 +83,10 @@ std::string SeriesUsageText() {
          "      --area TEXT          transistor area in square micrometres (default 1000)\n"
          "      --density            add the current density j in mA per square micrometre\n"
          "      --comment TEXT       text of the first line, after \"Data derived by lioraira: \"\n"
-         "      --out PATH           write the table to PATH (replaced only when complete)\n";
+         "      --out PATH           write the table to PATH (replaced only when complete)\n"
+         "      --checks             after the table, one line per file with the slopes of |h21|\n"
+         "                           and of the gain at fo in dB per decade, k at fo, where |h21|\n"
+         "                           and the gain cross 1, and the flags of doubtful fT and fmax\n";
 }
 
 }  // namespace app

@@ -110,6 +110,8 @@ bool ParseSeriesOptions(const std::vector<std::string>& args, SeriesOptions& opt
       // Each file's option line names its frequency unit; --multiplier serves files without one.
       options.settings.reading = numerics::FileReading::Touchstone;
       options.settings.automaticMultiplier = true;
+    } else if (arg == "--checks") {
+      options.checks = true;
     } else if (IsValueOption(arg)) {
       if (i + 1 == args.size()) {
         error = arg + " needs a value; see netrix --help.";

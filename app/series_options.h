@@ -12,6 +12,7 @@ struct SeriesOptions {
   series::SeriesSettings settings = series::DefaultSeriesSettings();
   std::vector<std::string> files;
   std::optional<std::string> outPath;
+  bool checks = false;  // print the checks of fT and fmax after the table
 };
 
 // Reads the options and file names of netrix --series. Options left out keep the series

@@ -67,8 +67,18 @@ QString TStringAlignGrid::Cells(int column, int row) const {
   return cell ? cell->text() : QString();
 }
 
+void TStringAlignGrid::SetCellShade(int column, int row, const QColor& background) {
+  if (!item(row, column)) SetCells(column, row, QString());
+  QTableWidgetItem& cell = *item(row, column);
+  StyleCell(cell, column, row);
+  if (background.isValid()) cell.setBackground(background);
+}
+
 void TStringAlignGrid::ClearRow(int row) {
-  for (int column = 0; column < columnCount(); ++column) SetCells(column, row, QString());
+  for (int column = 0; column < columnCount(); ++column) {
+    SetCells(column, row, QString());
+    SetCellShade(column, row, QColor());
+  }
 }
 
 void TStringAlignGrid::StyleCell(QTableWidgetItem& cell, int column, int row) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QTableWidget>
 #include <QVector>
 
@@ -23,6 +24,8 @@ class TStringAlignGrid : public QTableWidget {
   // The hint shows as the cell's tool tip; an empty one removes it.
   void SetCells(int column, int row, const QString& text, const QString& hint = QString());
   QString Cells(int column, int row) const;
+  // Shades a cell; an invalid colour restores the plain cell, as clearing the row does.
+  void SetCellShade(int column, int row, const QColor& background);
   void ClearRow(int row);
 
  private:

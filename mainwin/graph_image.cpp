@@ -1,11 +1,15 @@
 #include "graph_image.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <cassert>
 
+#include "diagram/pages/graph_data.h"
 #include "diagram/pages/read_out.h"
 #include "diagram/scaling.h"
+#include "series/check_texts.h"
 
 namespace mainwin {
 namespace {
@@ -44,6 +48,22 @@ void TGraphImage::Render() {
   Paint(painter, picture_.rect());
   scale_ = diagram::CurrentDiagram();
   update();
+}
+
+bool TGraphImage::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const diagram::pages::PageGraph graph = diagram::pages::GraphOf(page_, scene_);
+  const std::optional<diagram::pages::CheckedPoint> point =
+      picture_.isNull() ? std::nullopt : diagram::pages::CheckedPointNear(scale_, graph, help->pos());
+  if (!point) {
+    QToolTip::hideText();
+    event->ignore();
+    return true;
+  }
+  QToolTip::showText(help->globalPos(),
+                     QString::fromStdString(series::CheckTipText(scene_.results[point->file], point->figure)), this);
+  return true;
 }
 
 void TGraphImage::paintEvent(QPaintEvent*) {

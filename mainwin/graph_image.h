@@ -32,6 +32,9 @@ class TGraphImage : public QWidget {
   void ReadOut(const QString& text);
 
  protected:
+  // The tool tip of a point that carries the check of fT or fmax: why it is doubtful, its slope,
+  // its crossing and k.
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

@@ -1,11 +1,14 @@
 #include "output_pages.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 #include <cassert>
 
 #include "controls/string_align_grid.h"
+#include "series/check_texts.h"
 #include "series/table_cells.h"
 
 namespace mainwin {
@@ -13,6 +16,31 @@ namespace {
 
 constexpr int kTableColumns = 8;
 constexpr int kTableRows = 42;  // the header and up to 41 result rows
+
+// The fT and fmax cells carry the checks of their figure: a tool tip, and this shade when doubtful.
+struct CheckedColumn {
+  int column;
+  series::CheckedFigure figure;
+};
+constexpr CheckedColumn kCheckedColumns[] = {{2, series::CheckedFigure::FT}, {3, series::CheckedFigure::Fmax}};
+const QColor kDoubtfulShade(255, 214, 153);
+
+QWidget* MakeCheckLegend(QWidget* parent) {
+  auto* legend = new QLabel(QObject::tr("Shaded fT, fmax: doubtful at fo"), parent);
+  legend->setObjectName("LabelCheckLegend");
+  legend->setToolTip(QObject::tr("Slope outside -20 ± 3 dB per decade, fmax from MSG (k < 1), or more than 10 % "
+                                 "from where the sweep crosses 1. Point at a value for its check."));
+  legend->setStyleSheet(QStringLiteral("background-color: %1").arg(kDoubtfulShade.name()));
+  return legend;
+}
+
+void ShowChecks(controls::TStringAlignGrid& grid, int row, const series::FileFigures& file) {
+  for (const CheckedColumn& c : kCheckedColumns) {
+    const QString tip = QString::fromStdString(series::CheckTipText(file, c.figure));
+    grid.SetCells(c.column, row, grid.Cells(c.column, row), tip);
+    grid.SetCellShade(c.column, row, series::IsFlagged(file.check, c.figure) ? kDoubtfulShade : QColor());
+  }
+}
 
 }  // namespace
 
@@ -43,7 +71,10 @@ QWidget* MakeTablePage(QWidget* parent) {
   grid->horizontalHeader()->setStretchLastSection(true);
   grid->SetDefaultRowHeight(18);
   grid->SetFixedRows(1);
-  layout->addWidget(MakeCommentEdit(page, "EditComment3", QObject::tr("Output")));
+  auto* top = new QHBoxLayout;
+  top->addWidget(MakeCommentEdit(page, "EditComment3", QObject::tr("Output")), 1);
+  top->addWidget(MakeCheckLegend(page));
+  layout->addLayout(top);
   layout->addWidget(grid, 1);
   return page;
 }
@@ -61,6 +92,7 @@ void ShowResultTable(controls::TStringAlignGrid& grid, const series::SeriesList&
       const bool filled = static_cast<std::size_t>(column) < cells.size();
       grid.SetCells(column, row, filled ? QString::fromStdString(cells[static_cast<std::size_t>(column)]) : QString());
     }
+    ShowChecks(grid, row, results[i]);
   }
   for (int row = count + 1; row < kTableRows; ++row) grid.ClearRow(row);
 }

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "extraction_checks.h"
+
 // The results of a series evaluation: one entry per file of the series list, in list order.
 namespace series {
 
@@ -13,6 +15,7 @@ struct FileFigures {
   double s21 = 0;      // |S21| at the analysis point
   double k = 0;        // stability factor at the analysis point
   double fk = 0;       // stability limit f(k>1) in Hz; 0 when the file ends unstable
+  ExtractionCheck check = {};  // how far fT and fmax can be trusted at fo
 };
 
 using SeriesArrays = std::vector<FileFigures>;

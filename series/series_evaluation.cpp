@@ -7,6 +7,7 @@
 #include "numerics/real_functions.h"
 #include "numerics/text_cursor.h"
 #include "numerics/touchstone_reader.h"
+#include "extraction_checks.h"
 #include "point_figures.h"
 #include "series_file.h"
 #include "series_line_reader.h"
@@ -42,11 +43,13 @@ void ReadPointParameters(numerics::TextCursor& in, std::string_view content, con
   for (int i = 0; i < 4; ++i) *parameters[i] = numerics::MakePolar(numbers[2 * i], numbers[2 * i + 1]);
 }
 
-// The figures of the last point at or below fo, with its guarded S-parameters.
+// The figures of the last point at or below fo, with its guarded S-parameters and its place in
+// the sweep.
 struct AnalysisPoint {
   double f = 0;
   numerics::Matrix2 s;
   PointFigures figures;
+  std::size_t index = 0;
 };
 
 // The gains are extrapolated to unity with -20 dB per decade. Every point at or below fo would
@@ -71,12 +74,22 @@ void TrackStabilityLimit(double k, double f, double& fk) {
   if (k < 1.0 && std::fabs(fk) > kNoLimit) fk = 0;
 }
 
+// The current gain is taken after the analysis point has kept its S-parameters, as the
+// conversion may guard them once more.
 void TakePoint(numerics::TwoPortState& st, double f, const SeriesSettings& settings,
-               std::optional<AnalysisPoint>& analysis, FileFigures& out) {
+               std::optional<AnalysisPoint>& analysis, std::vector<SweepPoint>& sweep, FileFigures& out) {
   if (settings.withLgnd) InsertGroundInductance(st, f, settings.lgnd);
   const PointFigures p = ComputePointFigures(st);
-  if (f <= settings.fo) analysis = AnalysisPoint{f, st.s, p};
+  if (f <= settings.fo) analysis = AnalysisPoint{f, st.s, p, sweep.size()};
   TrackStabilityLimit(p.k, f, out.fk);
+  sweep.push_back({f, ComputeCurrentGain(st).h21, settings.fmaxFromU ? p.u : p.bestGain, p.k});
+}
+
+void TakeAnalysis(const std::optional<AnalysisPoint>& analysis, const std::vector<SweepPoint>& sweep,
+                  numerics::TwoPortState& st, const SeriesSettings& settings, FileFigures& out) {
+  if (!analysis) return;
+  TakeAnalysisValues(*analysis, st, settings.fmaxFromU, out);
+  out.check = CheckExtraction(sweep, analysis->index, settings.fmaxFromU, out.fT, out.fmax);
 }
 
 void TakeComment(std::string_view comment, const SeriesSettings& settings, FileFigures& out) {
@@ -91,14 +104,15 @@ FileFigures ScanSeriesText(std::string_view content, const std::string& path, co
   st.z0 = settings.z0;
   FileFigures out;
   std::optional<AnalysisPoint> analysis;
+  std::vector<SweepPoint> sweep;
   for (SeriesLine line = ReadSeriesLine(in); line.kind != SeriesLineKind::EndOfFile; line = ReadSeriesLine(in)) {
     if (line.kind == SeriesLineKind::Comment) TakeComment(line.comment, settings, out);
     if (line.kind != SeriesLineKind::Data) continue;
     ReadPointParameters(in, content, path, st);
     in.SkipLine();
-    TakePoint(st, line.frequency * settings.multiplier, settings, analysis, out);
+    TakePoint(st, line.frequency * settings.multiplier, settings, analysis, sweep, out);
   }
-  if (analysis) TakeAnalysisValues(*analysis, st, settings.fmaxFromU, out);
+  TakeAnalysis(analysis, sweep, st, settings, out);
   return out;
 }
 
@@ -119,13 +133,15 @@ FileFigures ScanTouchstoneText(std::string_view content, const std::string& path
   st.z0 = settings.z0;
   FileFigures out;
   std::optional<AnalysisPoint> analysis;
+  std::vector<SweepPoint> sweep;
+  sweep.reserve(data.frequency.size());
   for (const std::string& comment : data.comments) TakeComment(comment, settings, out);
   const double multiplier = FrequencyMultiplier(data, path, settings, notes);
   for (std::size_t i = 0; i < data.frequency.size(); ++i) {
     numerics::CopyPointToState(numerics::TouchstoneScattering(data, i, settings.z0, path), st);
-    TakePoint(st, data.frequency[i] * multiplier, settings, analysis, out);
+    TakePoint(st, data.frequency[i] * multiplier, settings, analysis, sweep, out);
   }
-  if (analysis) TakeAnalysisValues(*analysis, st, settings.fmaxFromU, out);
+  TakeAnalysis(analysis, sweep, st, settings, out);
   return out;
 }
 

@@ -1,6 +1,7 @@
 #include "graph_data.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "diagram/curves.h"
 
@@ -33,13 +34,22 @@ PlotSeries Series(const SeriesLook& look, const char* name, const series::Series
   return series;
 }
 
+// The points of a series that carry the check of fT or of fmax, flagged where it failed.
+PlotSeries Checked(PlotSeries series, const series::SeriesArrays& results, series::CheckedFigure figure) {
+  series.checked = figure;
+  for (const series::FileFigures& file : results) series.flagged.push_back(series::IsFlagged(file.check, figure));
+  return series;
+}
+
 PageGraph FtFmaxGraph(const PageScene& scene) {
   const GraphicChoice& c = scene.choice;
   PageGraph graph{XValues(scene), {}, XAxisTitle(scene.settings), "fT & fmax in Hz"};
   if (c.fTOnly) graph.yTitle = "fT in Hz";
   if (c.fmaxOnly) graph.yTitle = "fmax in Hz";
-  if (!c.fmaxOnly) graph.series.push_back(Series(kFirstSeries, "fT", scene.results, FT));
-  if (!c.fTOnly) graph.series.push_back(Series(kSecondSeries, "fmax", scene.results, Fmax));
+  using series::CheckedFigure;
+  const series::SeriesArrays& r = scene.results;
+  if (!c.fmaxOnly) graph.series.push_back(Checked(Series(kFirstSeries, "fT", r, FT), r, CheckedFigure::FT));
+  if (!c.fTOnly) graph.series.push_back(Checked(Series(kSecondSeries, "fmax", r, Fmax), r, CheckedFigure::Fmax));
   return graph;
 }
 
@@ -57,7 +67,10 @@ PageGraph KMagGraph(const PageScene& scene) {
   } else {
     graph.series.push_back(Series(kFirstSeries, "k (x10)", scene.results, KTimesTen));
   }
-  graph.series.push_back(Series(kSecondSeries, "MAG/MSG", scene.results, MagDb));
+  // MAG/MSG carries the check of fmax while fmax is taken from it.
+  PlotSeries gain = Series(kSecondSeries, "MAG/MSG", scene.results, MagDb);
+  if (!scene.settings.fmaxFromU) gain = Checked(std::move(gain), scene.results, series::CheckedFigure::Fmax);
+  graph.series.push_back(std::move(gain));
   return graph;
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "diagram/colour.h"
 #include "page_scene.h"
+#include "series/check_texts.h"
 
 // What an output page plots: the x value of every file, the y series with their colours and
 // markers, and the axis titles. Pure functions of the scene, so they are tested without drawing.
@@ -19,6 +21,8 @@ struct PlotSeries {
   diagram::Colour colour;
   std::uint8_t marker;
   std::string name;  // as the legend names it
+  std::optional<series::CheckedFigure> checked = std::nullopt;  // the figure whose check the points carry
+  std::vector<bool> flagged = {};  // per file, when checked: the check failed
 };
 
 struct PageGraph {

@@ -15,6 +15,7 @@ using diagram::Canvas;
 
 constexpr int kInset = 4;    // between the frame and the box
 constexpr int kPadding = 4;  // inside the box, and between a marker and its name
+constexpr const char* kRingMeaning = "doubtful at fo";
 
 int CoveredMarkers(const diagram::Diagram& d, const PageGraph& graph, const QRect& box) {
   const int s = diagram::MarkerSize(d);
@@ -38,19 +39,41 @@ QPoint MarkerPoint(std::uint8_t kind, int column, int row, int s) {
   }
 }
 
-QSize BoxSize(const PageGraph& graph, int markerWidth, const Canvas& canvas) {
-  int widest = 0;
+// Where the lines of the box and the column of their symbols are; the names follow the column.
+struct Layout {
+  QRect box;
+  int lineHeight;
+  int symbolWidth;
+  int markerSize;
+
+  QPoint LineStart(int line) const { return {box.left() + kPadding, box.top() + kPadding + line * lineHeight}; }
+};
+
+// The legend's ring fills its line, so that it reads as the same ring as on the points.
+int LegendRingRadius(int lineHeight) { return lineHeight / 2 - 1; }
+
+QSize BoxSize(const PageGraph& graph, bool ringed, const Layout& layout, const Canvas& canvas) {
+  int widest = ringed ? canvas.TextWidth(kRingMeaning) : 0;
   for (const PlotSeries& series : graph.series) widest = std::max(widest, canvas.TextWidth(series.name));
-  const int lines = static_cast<int>(graph.series.size());
-  return {3 * kPadding + markerWidth + widest, 2 * kPadding + lines * canvas.TextHeight("fT")};
+  const int lines = static_cast<int>(graph.series.size()) + (ringed ? 1 : 0);
+  return {3 * kPadding + layout.symbolWidth + widest, 2 * kPadding + lines * layout.lineHeight};
 }
 
-void DrawEntry(const PlotSeries& series, const QPoint& lineStart, int s, int lineHeight, Canvas& canvas) {
+void DrawEntry(const PlotSeries& series, const Layout& layout, int line, Canvas& canvas) {
+  const QPoint start = layout.LineStart(line);
   diagram::SetDrawColour(series.colour, canvas);
   canvas.SetBrushStyle(diagram::BrushStyle::Clear);
-  const QPoint at = MarkerPoint(series.marker, lineStart.x() + s, lineStart.y() + lineHeight / 2, s);
+  const int s = layout.markerSize;
+  const QPoint at = MarkerPoint(series.marker, start.x() + layout.symbolWidth / 2, start.y() + layout.lineHeight / 2, s);
   diagram::DrawMarker(canvas, series.marker, at.x(), at.y(), s);
-  canvas.TextOut(lineStart.x() + 2 * s + 1 + kPadding, lineStart.y(), series.name);
+  canvas.TextOut(start.x() + layout.symbolWidth + kPadding, start.y(), series.name);
+}
+
+void DrawRingEntry(const Layout& layout, int line, Canvas& canvas) {
+  const QPoint start = layout.LineStart(line);
+  const QPoint centre(start.x() + layout.symbolWidth / 2, start.y() + layout.lineHeight / 2);
+  DrawRing(centre, LegendRingRadius(layout.lineHeight), canvas);
+  canvas.TextOut(start.x() + layout.symbolWidth + kPadding, start.y(), kRingMeaning);
 }
 
 }  // namespace
@@ -73,19 +96,26 @@ QRect LegendBox(const diagram::Diagram& d, const PageGraph& graph, const QSize& 
   return best;
 }
 
-void DrawLegend(const diagram::Diagram& d, const PageGraph& graph, Canvas& canvas) {
+void DrawRing(QPoint centre, int radius, Canvas& canvas) {
+  diagram::SetDrawColour(diagram::kBlue, canvas);
+  canvas.SetPenStyle(diagram::PenStyle::Solid);
+  canvas.SetBrushStyle(diagram::BrushStyle::Clear);
+  canvas.Ellipse(centre.x() - radius, centre.y() - radius, centre.x() + radius, centre.y() + radius);
+}
+
+void DrawLegend(const diagram::Diagram& d, const PageGraph& graph, bool ringed, Canvas& canvas) {
   if (graph.series.empty()) return;
-  const int s = diagram::MarkerSize(d);
-  const int lineHeight = canvas.TextHeight("fT");
-  const QRect box = LegendBox(d, graph, BoxSize(graph, 2 * s + 1, canvas), canvas.WrittenTexts());
+  Layout layout{{}, canvas.TextHeight("fT"), 0, diagram::MarkerSize(d)};
+  layout.symbolWidth = 2 * layout.markerSize + 1;
+  if (ringed) layout.symbolWidth = std::max(layout.symbolWidth, 2 * LegendRingRadius(layout.lineHeight) + 1);
+  layout.box = LegendBox(d, graph, BoxSize(graph, ringed, layout, canvas), canvas.WrittenTexts());
   diagram::SetDrawColour(diagram::kBlack, canvas);
   canvas.SetBrushColour(diagram::kWhite);
   canvas.SetBrushStyle(diagram::BrushStyle::Solid);
-  canvas.Rectangle(box.left(), box.top(), box.right() + 1, box.bottom() + 1);
-  for (std::size_t i = 0; i < graph.series.size(); ++i) {
-    const QPoint lineStart(box.left() + kPadding, box.top() + kPadding + static_cast<int>(i) * lineHeight);
-    DrawEntry(graph.series[i], lineStart, s, lineHeight, canvas);
-  }
+  canvas.Rectangle(layout.box.left(), layout.box.top(), layout.box.right() + 1, layout.box.bottom() + 1);
+  const int lines = static_cast<int>(graph.series.size());
+  for (int line = 0; line < lines; ++line) DrawEntry(graph.series[static_cast<std::size_t>(line)], layout, line, canvas);
+  if (ringed) DrawRingEntry(layout, lines, canvas);
   diagram::SetDrawColour(diagram::kBlack, canvas);
 }
 

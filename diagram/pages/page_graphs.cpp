@@ -10,6 +10,7 @@
 #include "diagram/current.h"
 #include "diagram/curves.h"
 #include "diagram/frame.h"
+#include "diagram/scaling.h"
 #include "graph_data.h"
 #include "graph_legend.h"
 #include "numerics/rounding.h"
@@ -55,6 +56,21 @@ void ScaleAxes(const PageGraph& graph, diagram::Diagram& d) {
   d.yStep = numerics::NiceStep((d.yMax - 0) / 50);
 }
 
+// Returns whether a ring was drawn, which is when the legend says what a ring means.
+bool DrawRings(const diagram::Diagram& d, const PageGraph& graph, Canvas& c) {
+  bool drawn = false;
+  for (const PlotSeries& s : graph.series) {
+    for (std::size_t i = 0; i < s.flagged.size(); ++i) {
+      const QPoint at = PointPixel(d, graph, s, i);
+      if (!s.flagged[i] || !diagram::IsStrictlyInside(d, at.x(), at.y())) continue;
+      DrawRing(at, RingRadius(d), c);
+      drawn = true;
+    }
+  }
+  c.SetBrushStyle(diagram::BrushStyle::Solid);  // the titles and the legend box are drawn filled
+  return drawn;
+}
+
 void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
   diagram::Diagram& d = diagram::CurrentDiagram();
   ScaleAxes(graph, d);
@@ -65,13 +81,31 @@ void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
     diagram::DrawMarkers(graph.x, s.y, s.marker, count, c);
     if (connect) diagram::DrawCurve(graph.x, s.y, count, c);
   }
+  const bool ringed = DrawRings(d, graph, c);
   diagram::SetDrawColour(diagram::kBlack, c);
   diagram::DrawXTitle(graph.xTitle, false, c);
   diagram::DrawYTitle(graph.yTitle, c);
-  DrawLegend(d, graph, c);
+  DrawLegend(d, graph, ringed, c);
 }
 
 }  // namespace
+
+int RingRadius(const diagram::Diagram& d) { return 2 * diagram::MarkerSize(d) + 2; }
+
+QPoint PointPixel(const diagram::Diagram& d, const PageGraph& graph, const PlotSeries& series, std::size_t file) {
+  return {diagram::XToPixel(d, graph.x[file]), diagram::YToPixel(d, series.y[file])};
+}
+
+std::optional<CheckedPoint> CheckedPointNear(const diagram::Diagram& d, const PageGraph& graph, QPoint at) {
+  const int radius = RingRadius(d);
+  for (const PlotSeries& s : graph.series) {
+    for (std::size_t i = 0; s.checked && i < s.y.size(); ++i) {
+      const QPoint offset = PointPixel(d, graph, s, i) - at;
+      if (offset.x() * offset.x() + offset.y() * offset.y() <= radius * radius) return CheckedPoint{*s.checked, i};
+    }
+  }
+  return std::nullopt;
+}
 
 void DrawFtFmaxPage(const PageScene& scene, Canvas& canvas) {
   DrawPageGraph(GraphOf(OutputPage::FtFmax, scene), scene.connect, canvas);

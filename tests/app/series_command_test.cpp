@@ -64,6 +64,22 @@ TEST_F(SeriesCommandTest, AppliesTheOptions) {
   EXPECT_NE(err_.str().find("has no \"#\" option line"), std::string::npos);
 }
 
+// The single point gives no slope; |h21| and MAG stay above 1, so there is no crossing either.
+TEST_F(SeriesCommandTest, ChecksFollowTheTableThatStaysAsItWas) {
+  const std::string a = Device("a.s2p");
+  ASSERT_EQ(Series({a}), 0);
+  const std::string table = out_.str();  // as worked out by hand in the first test
+  const std::string checks = a + " h21_slope=- gain_slope=- k=1.2500 fT_crossing=- fmax_crossing=- flags=none\n";
+  ASSERT_EQ(Series({"--checks", a}), 0) << err_.str();
+  EXPECT_EQ(out_.str(), table + checks);
+  const std::string target = Path("result.spa");
+  ASSERT_EQ(Series({"--checks", "--out", target, a}), 0) << err_.str();
+  EXPECT_EQ(ReadFile(target), table);
+  EXPECT_EQ(out_.str(), checks);
+  ASSERT_EQ(Series({"--checks", "--fo", "900M", "--out", target, a}), 0);
+  EXPECT_EQ(out_.str(), a + " no point at or below fo, nothing to check\n");
+}
+
 TEST_F(SeriesCommandTest, TakesTheFirstFortyFilesAndRefusesTheNext) {
   std::vector<std::string> files;
   for (int i = 1; i <= 42; ++i) files.push_back(Device("d" + std::to_string(i) + ".s2p"));
@@ -106,7 +122,7 @@ TEST(Help, NamesEveryModeAndOption) {
   ASSERT_EQ(RunHeadlessMode({"--help"}, out, err), 0);
   for (const char* text : {"--figures [--touchstone] FILE|FOLDER...", "--render VIEW --out PATH",
                            "--render ft-fmax|k-mag|stability-limit",
-                           "--series [options] FILE...", "--multiplier Hz|MHz|GHz", "--x-axis ic|id|fileno"}) {
+                           "--series [options] FILE...", "--multiplier Hz|MHz|GHz", "--x-axis ic|id|fileno", "--checks"}) {
     EXPECT_NE(out.str().find(text), std::string::npos) << text;
   }
   EXPECT_EQ(RunHeadlessMode({"--no-such-mode"}, out, err), 2);

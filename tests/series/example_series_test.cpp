@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "series/series_evaluation.h"
+#include "series_fixtures.h"
 
 namespace series {
 namespace {
@@ -41,6 +42,14 @@ TEST(ExampleSeries, ExtractsTheModelsTransitFrequencies) {
     // re + rc lowers it by (re + rc) Ic / VA (0.48 % at 40 mA). Their sum stays below 0.56 %
     // at every current, and the stated values are rounded to 0.014 %.
     EXPECT_NEAR(arrays[i].fT / kExamples[i].closedFormFt, 1, 0.006) << kExamples[i].file;
+    // At 2 GHz |h21| falls at 20 dB per decade at every current, and the sweep to 20 GHz reaches
+    // every fT; fmax comes from MSG exactly where the model is potentially unstable at 2 GHz.
+    const ExtractionCheck& check = arrays[i].check;
+    EXPECT_FALSE(check.FtFlagged()) << kExamples[i].file;
+    ASSERT_TRUE(check.fT.crossing);
+    EXPECT_NEAR(*check.fT.crossing / kExamples[i].closedFormFt, 1, 0.05) << kExamples[i].file;
+    const bool potentiallyUnstable = textbook::Rollett(fixtures::ModelScattering(kExamples[i].current, 2e9)) < 1;
+    EXPECT_EQ(check.fmaxFromMsg, potentiallyUnstable) << kExamples[i].file;
   }
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "tests/numerics/textbook.h"
+#include "tools/transistor_model.h"
 
 namespace series::fixtures {
 
@@ -58,5 +59,14 @@ inline long double CurrentGain(const M2& s, long double z0) {
 }
 
 inline long double MasonU(const M2& s, long double z0) { return textbook::MasonU(textbook::AdmittanceFromS(s, z0)); }
+
+// The S-parameters of the example transistor model at bias current ic and frequency f.
+inline M2 ModelScattering(double ic, double f) {
+  tools::Circuit device;
+  device.ic = ic;
+  const tools::Matrix s = tools::ScatteringAt(device, f);
+  const auto c = [](tools::Complex z) { return textbook::C(z.real(), z.imag()); };
+  return {c(s[0][0]), c(s[0][1]), c(s[1][0]), c(s[1][1])};
+}
 
 }  // namespace series::fixtures

@@ -20,6 +20,7 @@ constexpr int kHeight = 300;
 const QRgb kGreenPixel = qRgb(0, 128, 0);
 const QRgb kRedPixel = qRgb(255, 0, 0);
 const QRgb kWhitePixel = qRgb(255, 255, 255);
+const QRgb kBluePixel = qRgb(0, 0, 255);
 
 QImage Draw(OutputPage page, const PageScene& scene) {
   QImage image(kWidth, kHeight, QImage::Format_RGB32);
@@ -54,6 +55,24 @@ TEST(PageGraphs, MarksFtWithGreenCrossesAndFmaxWithRedCircles) {
   EXPECT_EQ(image.pixel(260, 145), kGreenPixel);  // 2 mA, 20 GHz
   EXPECT_TRUE(AnyIn(image, 154, 169, 3, kRedPixel));  // 1 mA, 16 GHz: the circle hangs right of and below it
   EXPECT_TRUE(AnyIn(image, 260, 86, 3, kRedPixel));   // 2 mA, 30 GHz
+}
+
+// Rings have the radius 2 * 2 + 2 = 6 pixels; the legend at the top right explains them on its third line.
+TEST(PageGraphs, RingsTheDoubtfulPointsAndFindsTheirChecks) {
+  PageScene scene = TwoFiles();
+  EXPECT_FALSE(AnyIn(Draw(OutputPage::FtFmax, scene), 0, 0, kHeight, kBluePixel));  // no ring, no legend line
+  scene.results[0].check.fmaxFromMsg = true;
+  const QImage image = Draw(OutputPage::FtFmax, scene);
+  EXPECT_TRUE(AnyIn(image, 159, 168, 3, kBluePixel));   // right of 1 mA, 16 GHz
+  EXPECT_FALSE(AnyIn(image, 265, 85, 3, kBluePixel));   // right of 2 mA, 30 GHz
+  EXPECT_TRUE(AnyIn(image, 255, 58, 18, kBluePixel));
+  const PageGraph graph = GraphOf(OutputPage::FtFmax, scene);
+  const diagram::Diagram& d = diagram::CurrentDiagram();
+  const std::optional<CheckedPoint> fT = CheckedPointNear(d, graph, {263, 142});
+  ASSERT_TRUE(fT);
+  EXPECT_EQ(fT->figure, series::CheckedFigure::FT);
+  EXPECT_EQ(fT->file, 1u);
+  EXPECT_FALSE(CheckedPointNear(d, graph, {200, 120}));
 }
 
 // The top right of the frame holds no point: the legend goes there, with both markers.
