@@ -3,20 +3,17 @@
 #include <filesystem>
 #include <memory>
 #include <ostream>
-#include <string_view>
 #include <thread>
 
 #include "figures_rows.h"
 #include "numerics/file_reader.h"
 #include "numerics/text_file.h"
 #include "ordered_work.h"
+#include "output_safety.h"
 #include "touchstone_option.h"
 
 namespace app {
 namespace {
-
-// What a folder contributes: two-port Touchstone files and the program's own files.
-constexpr std::string_view kDataExtensions[] = {".s2p", ".spm"};
 
 struct FiguresJob {
   std::string path;
@@ -43,7 +40,7 @@ FiguresBatch ExpandFolders(const std::vector<std::string>& names) {
       continue;
     }
     batch.namesFolder = true;
-    const std::vector<std::string> files = numerics::FilesInFolder(name, kDataExtensions);
+    const std::vector<std::string> files = numerics::FilesInFolder(name, numerics::kDataFileExtensions);
     if (files.empty()) {
       batch.jobs.push_back({name, "netrix --figures: the folder " + name +
                                       " holds no .s2p or .spm file. Name S-parameter files or folders holding them."});
@@ -60,6 +57,14 @@ numerics::DataSetStore& ThreadStore() {
   return *store;
 }
 
+std::string NonFiniteNote(const std::string& path, const NonFiniteRows& rows) {
+  std::string frequency;
+  AppendNumber(frequency, rows.firstFrequency);
+  return "netrix --figures: " + std::to_string(rows.count) + (rows.count == 1 ? " row of " : " rows of ") + path +
+         (rows.count == 1 ? " holds" : " hold") + " values that are not finite numbers (nan or inf), the first at " +
+         frequency + " Hz; check the numbers of the file.";
+}
+
 FileResult EvaluateFile(const FiguresJob& job, const numerics::ReadingChoice& choice, bool withFileColumn) {
   if (!job.error.empty()) return {{}, job.error, {}};
   numerics::DataSetStore& store = ThreadStore();
@@ -68,7 +73,9 @@ FileResult EvaluateFile(const FiguresJob& job, const numerics::ReadingChoice& ch
   std::string field;
   if (withFileColumn) AppendCsvField(field, job.path);
   FileResult result{{}, {}, outcome.notes};
-  AppendFiguresRows(result.rows, store.sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)], field);
+  const NonFiniteRows nonFinite =
+      AppendFiguresRows(result.rows, store.sets[static_cast<std::size_t>(outcome.dataSetNumber - 1)], field);
+  if (nonFinite.count > 0) result.notes.push_back(NonFiniteNote(job.path, nonFinite));
   return result;
 }
 
@@ -118,7 +125,8 @@ int RunFiguresCommand(const std::vector<std::string>& args, std::ostream& out, s
         headerWritten = true;
         out << file.rows;
       });
-  return allWritten && out.good() ? 0 : 1;
+  const bool written = StandardOutputWritten(out, err, "netrix --figures", "the figures");
+  return allWritten && written ? 0 : 1;
 }
 
 }  // namespace app

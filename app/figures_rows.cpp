@@ -1,8 +1,10 @@
 #include "figures_rows.h"
 
+#include <algorithm>
 #include <array>
 #include <cassert>
 #include <charconv>
+#include <cmath>
 #include <iterator>
 
 #include "numerics/conversions.h"
@@ -64,13 +66,17 @@ void AppendCsvField(std::string& text, std::string_view path) {
   text += '"';
 }
 
-void AppendFiguresRows(std::string& text, const numerics::TwoPortDataSet& set, std::string_view firstField) {
+NonFiniteRows AppendFiguresRows(std::string& text, const numerics::TwoPortDataSet& set, std::string_view firstField) {
   const std::size_t longestRow = firstField.size() + kValuesPerRow * (kLongestNumber + 1);
   if (set.pointCount > 0) text.reserve(text.size() + static_cast<std::size_t>(set.pointCount) * longestRow);
   numerics::TwoPortState st;
+  NonFiniteRows nonFinite;
   for (int i = 0; i < set.pointCount; ++i) {
     const auto index = static_cast<std::size_t>(i);
     const std::array<double, kValuesPerRow> values = RowValues(set.frequency[index], set.points[index], st);
+    if (!std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); })) {
+      if (nonFinite.count++ == 0) nonFinite.firstFrequency = values[0];
+    }
     if (!firstField.empty()) {
       text += firstField;
       text += ',';
@@ -81,6 +87,7 @@ void AppendFiguresRows(std::string& text, const numerics::TwoPortDataSet& set, s
     }
     text += '\n';
   }
+  return nonFinite;
 }
 
 }  // namespace app

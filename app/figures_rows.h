@@ -18,8 +18,15 @@ void AppendNumber(std::string& text, double value);
 // Appends path as one CSV field, quoted where it holds a comma, a quote or a line break.
 void AppendCsvField(std::string& text, std::string_view path);
 
+// The rows that hold a value which is not a finite number (an input number beyond double range
+// gives inf), and the frequency of the first of them.
+struct NonFiniteRows {
+  int count = 0;
+  double firstFrequency = 0;
+};
+
 // Appends one row per point of set; where firstField (already a CSV field) is not empty, each
 // row starts with it and a comma.
-void AppendFiguresRows(std::string& text, const numerics::TwoPortDataSet& set, std::string_view firstField);
+NonFiniteRows AppendFiguresRows(std::string& text, const numerics::TwoPortDataSet& set, std::string_view firstField);
 
 }  // namespace app

@@ -3,26 +3,17 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <ostream>
-#include <string_view>
+
+#include "numerics/text_file.h"
 
 namespace app {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view kDataExtensions[] = {".s2p", ".spm"};
-
-std::string LowerExtension(const std::string& path) {
-  std::string extension = fs::path(path).extension().string();
-  std::transform(extension.begin(), extension.end(), extension.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return extension;
-}
 
 // The same file, whatever the names: through links, "./", or another spelling of the folder.
 bool IsOneOf(const std::string& path, const std::vector<std::string>& inputs) {
@@ -38,10 +29,9 @@ bool IsWriteProtected(const struct stat& status) { return (status.st_mode & S_IW
 }  // namespace
 
 std::string RefuseOutput(const std::string& path, const std::vector<std::string>& inputs) {
-  const std::string extension = LowerExtension(path);
-  if (std::find(std::begin(kDataExtensions), std::end(kDataExtensions), extension) != std::end(kDataExtensions)) {
-    return "the output " + path + " ends in " + extension + " like an S-parameter file, and could be a measurement "
-           "(did --out lose its value?); nothing was written. Name an output file of another kind.";
+  if (numerics::HasExtension(path, numerics::kDataFileExtensions)) {
+    return "the output " + path + " has the extension of an S-parameter file and could be a measurement (did --out "
+           "lose its value?); nothing was written. Name an output file of another kind.";
   }
   if (IsOneOf(path, inputs)) {
     return "the output " + path + " is one of the input files; nothing was written. Name another output file.";

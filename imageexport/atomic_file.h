@@ -10,6 +10,10 @@
 // renamed over it once everything is written.
 namespace imageexport {
 
+// Why a write to file failed: the system's reason for the call that failed (errno, cleared before
+// the call), since Qt words a write that stopped part of the way "Unknown error"; else Qt's words.
+std::string FailureReason(const QFileDevice& file, int systemError);
+
 // The message for a picture file that could not be written.
 std::string CannotWriteMessage(const std::string& path, const std::string& reason);
 

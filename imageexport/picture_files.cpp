@@ -3,6 +3,7 @@
 #include <QImageWriter>
 #include <QSaveFile>
 #include <cassert>
+#include <cerrno>
 #include <span>
 
 #include "atomic_file.h"
@@ -16,9 +17,11 @@ ExportResult SaveThroughQt(const QImage& image, const std::string& path, const c
   QSaveFile file(QString::fromStdString(path));
   if (ExportResult opened = OpenSaveFile(file); !opened.Ok()) return opened;
   QImageWriter writer(&file, format);
+  errno = 0;
   if (!writer.write(image)) {
+    const std::string reason = errno != 0 ? FailureReason(file, errno) : writer.errorString().toStdString();
     file.cancelWriting();
-    return {CannotWriteMessage(path, writer.errorString().toStdString())};
+    return {CannotWriteMessage(path, reason)};
   }
   return CommitSaveFile(file);
 }

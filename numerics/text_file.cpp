@@ -7,14 +7,17 @@
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <filesystem>
 
 namespace numerics {
 namespace {
 
-// Data files of 253 points are some 20 kB; the cap keeps a runaway file from filling memory.
+// Data files of 253 points are some 20 kB, and long sweeps a few MB; the cap keeps a runaway
+// file from filling memory. A larger file is refused whole, never cut.
 constexpr std::size_t kMostBytesRead = 64U << 20;
+constexpr const char* kTooLargeReason = "larger than 64 MiB, far more than an S-parameter file holds";
 constexpr std::size_t kReadChunk = 64U << 10;
 
 class FileDescriptor {
@@ -31,14 +34,19 @@ class FileDescriptor {
   int fd_;
 };
 
-// Reads to the end of the file; false with errno set when a read fails.
+// Reads to the end of the file; false with errno set when a read fails, EFBIG when the file holds
+// more than the cap (it has grown since its size was taken).
 bool ReadAll(int fd, std::size_t expectedSize, std::string& content) {
+  const std::size_t beyondCap = kMostBytesRead + 1;
   content.resize(std::min(expectedSize, kMostBytesRead) + 1);  // one more byte finds the end at once
   std::size_t filled = 0;
   for (;;) {
     if (filled == content.size()) {
-      if (content.size() >= kMostBytesRead) break;
-      content.resize(std::min(content.size() + kReadChunk, kMostBytesRead));
+      if (filled == beyondCap) {
+        errno = EFBIG;
+        return false;
+      }
+      content.resize(std::min(content.size() + kReadChunk, beyondCap));
     }
     const ssize_t n = read(fd, content.data() + filled, content.size() - filled);
     if (n < 0 && errno == EINTR) continue;
@@ -50,10 +58,11 @@ bool ReadAll(int fd, std::size_t expectedSize, std::string& content) {
   return true;
 }
 
-// Names what a path that is not a regular file is, so the message tells the user what was given.
+// Why a file that is not a regular one is not read: a device or a pipe could be read forever.
 const char* NotRegularReason(mode_t mode) {
   if (S_ISFIFO(mode)) return "a pipe, not a regular file";
   if (S_ISCHR(mode) || S_ISBLK(mode)) return "a device, not a regular file";
+  if (S_ISSOCK(mode)) return "a socket, not a regular file";
   return "not a regular file";
 }
 
@@ -73,12 +82,13 @@ std::optional<std::string> ReadTextFile(const std::string& path, std::string& re
     return std::nullopt;
   }
   if (!S_ISREG(status.st_mode)) {
-    reason = NotRegularReason(status.st_mode);  // a device or a pipe could be read forever
+    reason = NotRegularReason(status.st_mode);
     return std::nullopt;
   }
+  const bool tooLarge = static_cast<std::uintmax_t>(status.st_size) > kMostBytesRead;
   std::string content;
-  if (!ReadAll(file.Get(), static_cast<std::size_t>(status.st_size), content)) {
-    reason = std::strerror(errno);
+  if (tooLarge || !ReadAll(file.Get(), static_cast<std::size_t>(status.st_size), content)) {
+    reason = tooLarge || errno == EFBIG ? kTooLargeReason : std::strerror(errno);
     return std::nullopt;
   }
   return content;

@@ -8,8 +8,12 @@
 
 namespace numerics {
 
+// The extensions of S-parameter files: two-port Touchstone files and the program's own.
+inline constexpr std::string_view kDataFileExtensions[] = {".s2p", ".spm"};
+
 // The whole content of a data file. When it cannot be read, reason says why in a few words
-// ("No such file or directory", "not a regular file") for the caller's message.
+// ("No such file or directory", "a pipe, not a regular file") for the caller's message. A file
+// larger than any data file is refused rather than read in part.
 std::optional<std::string> ReadTextFile(const std::string& path, std::string& reason);
 
 // Whether the path's extension, in lower case, is one of extensions (".s2p", ...).

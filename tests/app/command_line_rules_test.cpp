@@ -57,7 +57,7 @@ TEST_P(CommandLineRulesTest, KeepsTheUsersFilesAndTellsWhy) {
 INSTANTIATE_TEST_SUITE_P(
     Commands, CommandLineRulesTest,
     testing::Values(
-        RuleCase{"OutLostItsValue", "{netrix} --series --out *.s2p", 1, "ends in .s2p like an S-parameter file"},
+        RuleCase{"OutLostItsValue", "{netrix} --series --out *.s2p", 1, "has the extension of an S-parameter file"},
         RuleCase{"OutIsAnInputByAnotherName", "{netrix} --series --out ./meas.txt meas.txt", 1,
                  "is one of the input files"},
         RuleCase{"DataIsAnInput", "{netrix} --render gain --out g.png --data meas.txt meas.txt", 1,
@@ -65,26 +65,44 @@ INSTANTIATE_TEST_SUITE_P(
         RuleCase{"SeriesOverAProtectedFile", "{netrix} --series --out ro.spa a.s2p", 1, "ro.spa is write-protected"},
         RuleCase{"RenderOverAProtectedFile", "{netrix} --render smith --out ro.png meas.txt", 1,
                  "ro.png is write-protected"},
-        RuleCase{"FullDisk", "{netrix} --series a.s2p > /dev/full", 1, "(No space left on device)"},
         RuleCase{"ClosedStandardOutput", "{netrix} --series a.s2p >&-", 1, "(Bad file descriptor)"},
+        // A file size limit stops the writes part of the way, as a full disk does.
+        RuleCase{"PictureOnAFullDisk", "trap '' XFSZ; ulimit -f 1; {netrix} --render smith --out big.bmp meas.txt", 1,
+                 "\"big.bmp\": File too large"},
+        RuleCase{"FiguresToAFullDisk", "{netrix} --figures meas.txt > /dev/full", 1,
+                 "the figures could not be written to standard output (No space left on device)"},
+        RuleCase{"SeriesFileTooLargeIsNotCut", "truncate -s 65M big.s2p && {netrix} --series big.s2p", 1,
+                 "big.s2p cannot be read (larger than 64 MiB"},
         RuleCase{"SeriesRecordCutByTheEnd", "{netrix} --series cut.s2p", 1, "line 2: the file ends within this record"},
-        RuleCase{"NotFiniteResults", "{netrix} --series nan.s2p > out.spa", 0, "not finite numbers (nan or inf) for fT"},
+        RuleCase{"NotFiniteSeriesRow", "{netrix} --series nan.s2p > out.spa", 0,
+                 "not finite numbers (nan or inf) for fT"},
+        RuleCase{"NotFiniteFiguresRow", "{netrix} --figures nan.s2p > out.csv", 0,
+                 "1 row of nan.s2p holds values that are not finite numbers (nan or inf), the first at 1000 Hz"},
         RuleCase{"NotesGoToStandardError", "{netrix} --figures fall.s2p > out.csv", 0,
                  "stopped at line 4: the frequency does not rise; 1 line not read."},
+        RuleCase{"DeviceAsAFile", "{netrix} --figures /dev/zero", 1, "/dev/zero cannot be read (a device, not a regular"},
         RuleCase{"WindowWithoutDisplay", "env -u DISPLAY -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb {netrix} a.s2p", 1,
                  "no display could be reached (DISPLAY is not set)"}),
     [](const testing::TestParamInfo<RuleCase>& info) { return std::string(info.param.name); });
 
-// A link stays a link and its target gets the table; the target keeps its permissions.
+// In every mode a link stays a link and its target gets the output; the target keeps its permissions.
 TEST_F(CommandLineRulesTest, WritesThroughALinkAndKeepsThePermissions) {
-  Write("target.spa", "old\n");
-  fs::permissions(Path("target.spa"), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-  fs::create_symlink("target.spa", Path("link.spa"));
-  ASSERT_EQ(Shell("{netrix} --series --out link.spa a.s2p"), 0) << ReadFile(Path("err.txt"));
-  EXPECT_TRUE(fs::is_symlink(Path("link.spa")));
-  EXPECT_EQ(ReadFile(Path("target.spa")).rfind("Data derived by", 0), 0U);
-  EXPECT_EQ(fs::status(Path("target.spa")).permissions() & fs::perms::all,
-            fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+  const fs::perms kept = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+  const struct {
+    std::string extension;
+    const char* command;
+    const char* head;
+  } outputs[] = {{".spa", "{netrix} --series --out link.spa a.s2p", "Data derived by"},
+                 {".png", "{netrix} --render smith --out link.png a.s2p", "\x89PNG"}};
+  for (const auto& [extension, command, head] : outputs) {
+    Write("target" + extension, "old\n");
+    fs::permissions(Path("target" + extension), kept);
+    fs::create_symlink("target" + extension, Path("link" + extension));
+    ASSERT_EQ(Shell(command), 0) << ReadFile(Path("err.txt"));
+    EXPECT_TRUE(fs::is_symlink(Path("link" + extension)));
+    EXPECT_EQ(ReadFile(Path("target" + extension)).rfind(head, 0), 0U) << extension;
+    EXPECT_EQ(fs::status(Path("target" + extension)).permissions() & fs::perms::all, kept) << extension;
+  }
 }
 
 }  // namespace
