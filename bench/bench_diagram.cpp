@@ -90,11 +90,11 @@ void DrawCartesianPicture(Canvas& c, Diagram& d, const std::vector<Sweep>& sweep
   SetAxisModes(d, AxisMode::Log, AxisMode::Linear);
   SetupAxes(d, kWidth, kHeight, 1e10, 1e7, 30, -10);
   SetAxisCrossing(d, 1e7, 0);
-  d.yStep = 1;
+  d.y.step = 1;
   SetDrawColour(kGrey, c);
   DrawGrid(d, 5, 5, c);
   SetDrawColour(kBlack, c);
-  DrawAxes(d, false, false, c, d.yStep, d.xStep);
+  DrawAxes(d, false, false, c, d.y.step, d.x.step);
   DrawAxisLabels(d, {}, c);
   for (std::size_t s = 0; s < sweeps.size(); ++s) {
     SetDrawColour(kColours[s], c);

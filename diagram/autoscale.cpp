@@ -90,17 +90,13 @@ void ScaleByMode(Axis& a, void (*linearRule)(Axis&)) {
 }  // namespace
 
 void AutoscaleX(Diagram& d, std::span<const double> values, int count) {
-  Axis a = XAxisOf(d);
-  if (!TakeExtremes(d, values, count, a)) return;
-  ScaleByMode(a, ScaleLinearX);
-  StoreXAxis(d, a);
+  if (!TakeExtremes(d, values, count, d.x)) return;
+  ScaleByMode(d.x, ScaleLinearX);
 }
 
 void AutoscaleY(Diagram& d, std::span<const double> values, int count) {
-  Axis a = YAxisOf(d);
-  if (!TakeExtremes(d, values, count, a)) return;
-  ScaleByMode(a, ScaleLinearY);
-  StoreYAxis(d, a);
+  if (!TakeExtremes(d, values, count, d.y)) return;
+  ScaleByMode(d.y, ScaleLinearY);
 }
 
 }  // namespace diagram

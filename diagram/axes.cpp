@@ -18,30 +18,30 @@ void Line(Canvas& c, int x1, int y1, int x2, int y2) {
 }
 
 void DrawHorizontalAxis(const Diagram& d, bool flip, Canvas& c, double step) {
-  const int row = YToPixel(d, d.yCross);
-  Line(c, d.pixLeft, row, d.pixRight, row);
+  const int row = YToPixel(d, d.y.cross);
+  Line(c, d.x.pixMin, row, d.x.pixMax, row);
   const int back = XArrowLength(d);
   const int side = Rounded(0.003 * d.height + 1);
-  Line(c, d.pixRight, row, d.pixRight - back, row - side);
-  Line(c, d.pixRight, row, d.pixRight - back, row + side);
-  const int length = std::max(2, Rounded(std::sqrt(d.pixBottom / 20.0)));
+  Line(c, d.x.pixMax, row, d.x.pixMax - back, row - side);
+  Line(c, d.x.pixMax, row, d.x.pixMax - back, row + side);
+  const int length = std::max(2, Rounded(std::sqrt(d.y.pixMin / 20.0)));
   const int end = flip ? row - length : row + length;
-  for (const double v : TickValues(XAxisOf(d), step)) {
+  for (const double v : TickValues(d.x, step)) {
     const int column = XToPixel(d, v);
     Line(c, column, row, column, end);
   }
 }
 
 void DrawVerticalAxis(const Diagram& d, bool flip, Canvas& c, double step) {
-  const int column = XToPixel(d, d.xCross);
-  Line(c, column, d.pixBottom, column, d.pixTop);
+  const int column = XToPixel(d, d.x.cross);
+  Line(c, column, d.y.pixMin, column, d.y.pixMax);
   const int back = Rounded(0.01 * d.height + 1);
   const int side = Rounded(0.003 * d.width + 1);
-  Line(c, column, d.pixTop, column - side, d.pixTop + back);
-  Line(c, column, d.pixTop, column + side, d.pixTop + back);
-  const int length = std::max(2, Rounded(std::sqrt(d.pixRight / 30.0)));
+  Line(c, column, d.y.pixMax, column - side, d.y.pixMax + back);
+  Line(c, column, d.y.pixMax, column + side, d.y.pixMax + back);
+  const int length = std::max(2, Rounded(std::sqrt(d.x.pixMax / 30.0)));
   const int end = flip ? column + length : column - length;
-  for (const double v : TickValues(YAxisOf(d), step)) {
+  for (const double v : TickValues(d.y, step)) {
     const int row = YToPixel(d, v);
     Line(c, column, row, end, row);
   }

@@ -12,8 +12,8 @@ void ClearDiagram(Colour colour, Canvas& canvas);
 // Pen and font colour together.
 void SetDrawColour(Colour colour, Canvas& canvas);
 
-// The horizontal axis at the row of yCross with its arrow at the right, ticks downwards (upwards
-// with flipX); the vertical axis at the column of xCross with its arrow at the top, ticks to
+// The horizontal axis at the row of y.cross with its arrow at the right, ticks downwards (upwards
+// with flipX); the vertical axis at the column of x.cross with its arrow at the top, ticks to
 // the left (to the right with flipY).
 void DrawAxes(const Diagram& d, bool flipX, bool flipY, Canvas& canvas, double yStep, double xStep);
 

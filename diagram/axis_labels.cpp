@@ -61,40 +61,40 @@ std::vector<AxisLabel> LabelsOf(const Axis& a) {
 
 }  // namespace
 
-std::vector<AxisLabel> XAxisLabels(const Diagram& d) { return LabelsOf(XAxisOf(d)); }
-std::vector<AxisLabel> YAxisLabels(const Diagram& d) { return LabelsOf(YAxisOf(d)); }
+std::vector<AxisLabel> XAxisLabels(const Diagram& d) { return LabelsOf(d.x); }
+std::vector<AxisLabel> YAxisLabels(const Diagram& d) { return LabelsOf(d.y); }
 
 void DrawAxisLabels(const Diagram& d, LabelPlacement placement, Canvas& canvas) {
-  const int row = YToPixel(d, d.yCross);
+  const int row = YToPixel(d, d.y.cross);
   for (const AxisLabel& label : XAxisLabels(d)) {
     const int width = canvas.TextWidth(label.text);
     const int top = placement.xLabelsAbove ? row - 20 : row + 4;
     canvas.TextOut(XToPixel(d, label.value) - width / 2, top, label.text);
   }
-  const int column = XToPixel(d, d.xCross);
+  const int column = XToPixel(d, d.x.cross);
   for (const AxisLabel& label : YAxisLabels(d)) {
     const int width = canvas.TextWidth(label.text);
     const int height = canvas.TextHeight(label.text);
     const int left = placement.yLabelsRight ? column + 4 : column - 4 - width;
     int top = YToPixel(d, label.value) - height / 2;
     // The label at the crossing stands clear of the horizontal axis's labels.
-    if (label.value == d.yCross) top = placement.xLabelsAbove ? row + 1 : row - height;
+    if (label.value == d.y.cross) top = placement.xLabelsAbove ? row + 1 : row - height;
     canvas.TextOut(left, top, label.text);
   }
 }
 
 void DrawXTitle(const Diagram& d, std::string_view text, bool below, Canvas& canvas) {
-  const int row = YToPixel(d, d.yCross);
-  const int left = d.pixRight - XArrowLength(d) - 4 - canvas.TextWidth(text);
+  const int row = YToPixel(d, d.y.cross);
+  const int left = d.x.pixMax - XArrowLength(d) - 4 - canvas.TextWidth(text);
   canvas.TextOut(left, below ? row + 4 : row - canvas.TextHeight(text) - 3, text);
 }
 
 void DrawYTitle(const Diagram& d, std::string_view text, Canvas& canvas) {
   const int width = canvas.TextWidth(text);
-  const int centred = XToPixel(d, d.xCross) - width / 2;
+  const int centred = XToPixel(d, d.x.cross) - width / 2;
   const int left = std::clamp(centred, 0, std::max(0, d.width - width));
   // Clear of the label at the top of the axis, which is centred on the arrow's tip.
-  canvas.TextOut(left, d.pixTop - canvas.TextHeight(text) * 3 / 2 - 2, text);
+  canvas.TextOut(left, d.y.pixMax - canvas.TextHeight(text) * 3 / 2 - 2, text);
 }
 
 }  // namespace diagram

@@ -25,7 +25,7 @@ bool ArraysHold(std::span<const double> x, std::span<const double> y, int count)
 }  // namespace
 
 bool IsStrictlyInside(const Diagram& d, int column, int row) {
-  return column > d.pixLeft && column < d.pixRight && row > d.pixTop && row < d.pixBottom;
+  return column > d.x.pixMin && column < d.x.pixMax && row > d.y.pixMax && row < d.y.pixMin;
 }
 
 void DrawMarker(Canvas& c, std::uint8_t kind, int x, int y, int s) {
@@ -51,7 +51,7 @@ void DrawMarker(Canvas& c, std::uint8_t kind, int x, int y, int s) {
   }
 }
 
-int MarkerSize(const Diagram& d) { return static_cast<int>(std::nearbyint((d.pixRight + d.pixBottom) / 500.0 + 1)); }
+int MarkerSize(const Diagram& d) { return static_cast<int>(std::nearbyint((d.x.pixMax + d.y.pixMin) / 500.0 + 1)); }
 
 void DrawCurve(const Diagram& d, std::span<const double> x, std::span<const double> y, int count, Canvas& canvas) {
   assert(ArraysHold(x, y, count));

@@ -9,22 +9,24 @@ namespace diagram {
 
 enum class AxisMode : std::uint8_t { Linear = 0, Log = 1, Polar = 2, Smith = 3 };
 
+// One axis, so that every rule for "an axis" is written once and applied to the horizontal and the
+// vertical axis alike. pixMin is the pixel of min (the left column, or the bottom row for the
+// vertical axis) and pixMax the pixel of max.
+struct Axis {
+  AxisMode mode = AxisMode::Linear;
+  double min = 0, max = 1;
+  double logMin = 0, logMax = 0;  // log10 of the limits, set in Log mode only
+  double limitCopy = 1;           // max as SetupAxes left it
+  double cross = 0;               // world value where the other axis crosses this one
+  double step = 0.1;
+  int labelEvery = 5;
+  int pixMin = 0, pixMax = 0;
+};
+
 struct Diagram {
-  AxisMode xMode = AxisMode::Linear;
-  AxisMode yMode = AxisMode::Linear;
-  double xMin = 0, xMax = 1;
-  double yMin = 0, yMax = 1;
-  double logXMin = 0, logXMax = 0;  // log10 of the limits, set in Log mode only
-  double logYMin = 0, logYMax = 0;
-  double xLimitCopy = 1, yLimitCopy = 1;  // xMax and yMax as SetupAxes left them
-  double xCross = 0;  // world x of the vertical axis
-  double yCross = 0;  // world y of the horizontal axis
-  double xStep = 0.1, yStep = 0.1;
-  int xLabelEvery = 5, yLabelEvery = 5;
-  int firstIndex = 0;  // first array index that autoscaling and the curves look at
-  int pixLeft = 0, pixRight = 0;  // columns of xMin and xMax
-  int pixTop = 0, pixBottom = 0;  // rows of yMax and yMin
-  int width = 0, height = 0;      // picture size when SetupAxes ran
+  Axis x, y;
+  int firstIndex = 0;         // first array index that autoscaling and the curves look at
+  int width = 0, height = 0;  // picture size when SetupAxes ran
 };
 
 // The program-wide state that the argument-free entry points use.

@@ -23,8 +23,8 @@ FrameLook SmithFrame(ChartKind chart, double z0) {
 void DrawFrame(Diagram& d, Canvas& canvas, const FrameLook& look) {
   ClearDiagram(kWhite, canvas);
   canvas.SetFont(DiagramFont{});
-  SetupAxes(d, canvas.Width(), canvas.Height(), d.xMax, d.xMin, d.yMax, d.yMin);
-  SetAxisCrossing(d, d.xCross, d.yCross);
+  SetupAxes(d, canvas.Width(), canvas.Height(), d.x.max, d.x.min, d.y.max, d.y.min);
+  SetAxisCrossing(d, d.x.cross, d.y.cross);
   SetDrawColour(kGrey, canvas);
   if (look.smithChart) {
     DrawSmithGrid(d, *look.smithChart, canvas, true, look.z0);
@@ -33,7 +33,7 @@ void DrawFrame(Diagram& d, Canvas& canvas, const FrameLook& look) {
   }
   SetDrawColour(kBlack, canvas);
   if (!look.smithChart) {
-    DrawAxes(d, look.labels.xLabelsAbove, look.labels.yLabelsRight, canvas, d.yStep, d.xStep);
+    DrawAxes(d, look.labels.xLabelsAbove, look.labels.yLabelsRight, canvas, d.y.step, d.x.step);
     DrawAxisLabels(d, look.labels, canvas);
   }
   DiagramFont bold;

@@ -12,36 +12,36 @@ namespace diagram {
 namespace {
 
 void DrawVerticalLines(const Diagram& d, double spacing, Canvas& c) {
-  for (const double v : GridValues(XAxisOf(d), spacing)) {
+  for (const double v : GridValues(d.x, spacing)) {
     const int column = XToPixel(d, v);
-    c.MoveTo(column, d.pixBottom);
-    c.LineTo(column, d.pixTop);
+    c.MoveTo(column, d.y.pixMin);
+    c.LineTo(column, d.y.pixMax);
   }
 }
 
 void DrawHorizontalLines(const Diagram& d, double spacing, Canvas& c) {
-  for (const double v : GridValues(YAxisOf(d), spacing)) {
+  for (const double v : GridValues(d.y, spacing)) {
     const int row = YToPixel(d, v);
-    c.MoveTo(d.pixLeft, row);
-    c.LineTo(d.pixRight, row);
+    c.MoveTo(d.x.pixMin, row);
+    c.LineTo(d.x.pixMax, row);
   }
 }
 
 // Distance from the origin to the outermost multiple of g inside the range, on the worse side.
 double LargestInnerRadius(const Diagram& d, double g) {
-  const double right = std::floor((d.xMax - d.xCross) / g) * g;
-  const double left = std::floor((d.xCross - d.xMin) / g) * g;
-  const double up = std::floor((d.yMax - d.yCross) / g) * g;
-  const double down = std::floor((d.yCross - d.yMin) / g) * g;
+  const double right = std::floor((d.x.max - d.x.cross) / g) * g;
+  const double left = std::floor((d.x.cross - d.x.min) / g) * g;
+  const double up = std::floor((d.y.max - d.y.cross) / g) * g;
+  const double down = std::floor((d.y.cross - d.y.min) / g) * g;
   return std::min({right, left, up, down});
 }
 
 void DrawCircle(const Diagram& d, double radius, Canvas& c) {
-  const int left = XToPixel(d, d.xCross - radius), right = XToPixel(d, d.xCross + radius);
-  const int top = YToPixel(d, d.yCross + radius), bottom = YToPixel(d, d.yCross - radius);
+  const int left = XToPixel(d, d.x.cross - radius), right = XToPixel(d, d.x.cross + radius);
+  const int top = YToPixel(d, d.y.cross + radius), bottom = YToPixel(d, d.y.cross - radius);
   // A box cut by the frame would give an ellipse off the origin: leave that circle out.
-  const bool centred = std::abs(left + right - 2 * XToPixel(d, d.xCross)) < 4 &&
-                       std::abs(top + bottom - 2 * YToPixel(d, d.yCross)) < 4;
+  const bool centred = std::abs(left + right - 2 * XToPixel(d, d.x.cross)) < 4 &&
+                       std::abs(top + bottom - 2 * YToPixel(d, d.y.cross)) < 4;
   if (centred) c.Ellipse(left, top, right, bottom);
 }
 
@@ -59,11 +59,11 @@ void DrawCircles(const Diagram& d, double g, Canvas& c) {
 void DrawGrid(const Diagram& d, int nx, int ny, Canvas& canvas) {
   const PenStyle saved = canvas.CurrentPenStyle();
   canvas.SetPenStyle(PenStyle::Dot);
-  if (IsRoundMode(d.xMode)) {
-    DrawCircles(d, nx * d.xStep, canvas);
+  if (IsRoundMode(d.x.mode)) {
+    DrawCircles(d, nx * d.x.step, canvas);
   } else {
-    DrawVerticalLines(d, nx * d.xStep, canvas);
-    DrawHorizontalLines(d, ny * d.yStep, canvas);
+    DrawVerticalLines(d, nx * d.x.step, canvas);
+    DrawHorizontalLines(d, ny * d.y.step, canvas);
   }
   canvas.SetPenStyle(saved);
 }

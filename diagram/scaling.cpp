@@ -42,17 +42,17 @@ void WidenAboutCentre(double& min, double& max, double span) {
 // One pixel scale on both axes, the largest with which both requested ranges stay whole in the
 // frame; the axis with pixels to spare is widened about its centre.
 void FitRoundChart(Diagram& d) {
-  const double columns = d.pixRight - d.pixLeft;
-  const double rows = d.pixBottom - d.pixTop;
-  const double xSpan = d.xMax - d.xMin;
-  const double ySpan = d.yMax - d.yMin;
+  const double columns = d.x.pixMax - d.x.pixMin;
+  const double rows = d.y.pixMin - d.y.pixMax;
+  const double xSpan = d.x.max - d.x.min;
+  const double ySpan = d.y.max - d.y.min;
   if (columns / xSpan > rows / ySpan) {
-    WidenAboutCentre(d.xMin, d.xMax, columns * ySpan / rows);
+    WidenAboutCentre(d.x.min, d.x.max, columns * ySpan / rows);
   } else {
-    WidenAboutCentre(d.yMin, d.yMax, rows * xSpan / columns);
+    WidenAboutCentre(d.y.min, d.y.max, rows * xSpan / columns);
   }
-  d.xLimitCopy = d.xMax;
-  d.yLimitCopy = d.yMax;
+  d.x.limitCopy = d.x.max;
+  d.y.limitCopy = d.y.max;
 }
 
 double CrossingOf(const Axis& a, double wanted) {
@@ -62,12 +62,9 @@ double CrossingOf(const Axis& a, double wanted) {
 }
 
 void RecomputeAxes(Diagram& d, bool x, bool y) {
-  Axis xa = XAxisOf(d), ya = YAxisOf(d);
-  if (x) ApplyRangeRule(xa);
-  if (y) ApplyRangeRule(ya);
-  StoreXAxis(d, xa);
-  StoreYAxis(d, ya);
-  if (IsRoundMode(d.xMode)) FitRoundChart(d);
+  if (x) ApplyRangeRule(d.x);
+  if (y) ApplyRangeRule(d.y);
+  if (IsRoundMode(d.x.mode)) FitRoundChart(d);
 }
 
 }  // namespace
@@ -83,8 +80,8 @@ void SetAxisModes(Diagram& d, AxisMode xMode, AxisMode yMode) {
   } else if (xMode == AxisMode::Smith || yMode == AxisMode::Smith) {
     xMode = yMode = AxisMode::Smith;
   }
-  d.xMode = xMode;
-  d.yMode = yMode;
+  d.x.mode = xMode;
+  d.y.mode = yMode;
 }
 
 void SetupAxes(Diagram& d, int width, int height, double xMax, double xMin, double yMax, double yMin) {
@@ -92,14 +89,14 @@ void SetupAxes(Diagram& d, int width, int height, double xMax, double xMin, doub
   assert(f.right > f.left && f.bottom > f.top && "picture too small for a diagram frame");
   d.width = width;
   d.height = height;
-  d.pixLeft = f.left;
-  d.pixRight = f.right;
-  d.pixTop = f.top;
-  d.pixBottom = f.bottom;
-  d.xMin = xMin;
-  d.xMax = xMax;
-  d.yMin = yMin;
-  d.yMax = yMax;
+  d.x.pixMin = f.left;
+  d.x.pixMax = f.right;
+  d.y.pixMax = f.top;
+  d.y.pixMin = f.bottom;
+  d.x.min = xMin;
+  d.x.max = xMax;
+  d.y.min = yMin;
+  d.y.max = yMax;
   RecomputeAxes(d, true, true);
 }
 
@@ -107,17 +104,17 @@ void RecomputeXAxis(Diagram& d) { RecomputeAxes(d, true, false); }
 void RecomputeYAxis(Diagram& d) { RecomputeAxes(d, false, true); }
 
 void SetAxisCrossing(Diagram& d, double xCross, double yCross) {
-  d.xCross = CrossingOf(XAxisOf(d), xCross);
-  d.yCross = CrossingOf(YAxisOf(d), yCross);
+  d.x.cross = CrossingOf(d.x, xCross);
+  d.y.cross = CrossingOf(d.y, yCross);
 }
 
-int XToPixel(const Diagram& d, double x) { return ToPixel(XAxisOf(d), x); }
-int YToPixel(const Diagram& d, double y) { return ToPixel(YAxisOf(d), y); }
-double PixelToX(const Diagram& d, double column) { return FromPixel(XAxisOf(d), column); }
-double PixelToY(const Diagram& d, double row) { return FromPixel(YAxisOf(d), row); }
+int XToPixel(const Diagram& d, double x) { return ToPixel(d.x, x); }
+int YToPixel(const Diagram& d, double y) { return ToPixel(d.y, y); }
+double PixelToX(const Diagram& d, double column) { return FromPixel(d.x, column); }
+double PixelToY(const Diagram& d, double row) { return FromPixel(d.y, row); }
 
 bool IsInsideFrame(const Diagram& d, int column, int row) {
-  return column >= d.pixLeft && column <= d.pixRight && row >= d.pixTop && row <= d.pixBottom;
+  return column >= d.x.pixMin && column <= d.x.pixMax && row >= d.y.pixMax && row <= d.y.pixMin;
 }
 
 }  // namespace diagram

@@ -14,7 +14,7 @@ namespace {
 // The reflection plane in pixels: the diagram's linear mapping without rounding or clamping,
 // since the boxes of the large circles reach far beyond the frame.
 struct ChartTransform {
-  explicit ChartTransform(const Diagram& d) : x(XAxisOf(d)), y(YAxisOf(d)) {}
+  explicit ChartTransform(const Diagram& d) : x(d.x), y(d.y) {}
   double Column(double re) const { return ToPixelExact(x, re); }
   double Row(double im) const { return ToPixelExact(y, im); }
   int ColumnPixel(double re) const { return static_cast<int>(std::nearbyint(Column(re))); }
@@ -53,7 +53,7 @@ class SavedStyle {
 void PrepareCanvas(const Diagram& d, Canvas& c) {
   c.SetPenStyle(PenStyle::Solid);
   c.SetBrushStyle(BrushStyle::Clear);
-  c.SetClipRect(d.pixLeft, d.pixTop, d.pixRight + 1, d.pixBottom + 1);
+  c.SetClipRect(d.x.pixMin, d.y.pixMax, d.x.pixMax + 1, d.y.pixMin + 1);
   DiagramFont font;
   font.pointSize = SmithLabelPointSize(d.width, d.height);
   c.SetFont(font);

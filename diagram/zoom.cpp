@@ -38,11 +38,8 @@ void ZoomAxis(Axis& a, bool in) {
 }
 
 void Zoom(Diagram& d, bool in) {
-  Axis x = XAxisOf(d), y = YAxisOf(d);
-  ZoomAxis(x, in);
-  ZoomAxis(y, in);
-  StoreXAxis(d, x);
-  StoreYAxis(d, y);
+  ZoomAxis(d.x, in);
+  ZoomAxis(d.y, in);
   RecomputeXAxis(d);
   RecomputeYAxis(d);
 }

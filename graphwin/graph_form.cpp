@@ -101,9 +101,9 @@ void TGraphForm::BuildMenus() {
   menuBar()->addMenu(BuildFileMenu());
   menuBar()->addMenu(BuildGraphicMenu());
   menuBar()->addMenu(BuildScalesMenu());
-  QMenu* help = menuBar()->addMenu(tr("&Help"));
+  QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
   help->setObjectName("Hilfe1");
-  QAction* usage = AddAction(help, "HilfezumProgramm1", tr("&Help for Graphic Usage"));
+  QAction* usage = AddAction(help, "HilfezumProgramm1", QStringLiteral("&Help for Graphic Usage"));
   usage->setShortcut(Qt::Key_F1);
   connect(usage, &QAction::triggered, this, [this] {
     dialogs_.help->show();
@@ -112,22 +112,22 @@ void TGraphForm::BuildMenus() {
 }
 
 QMenu* TGraphForm::BuildFileMenu() {
-  file1_ = new QMenu(tr("&File"), this);
+  file1_ = new QMenu(QStringLiteral("&File"), this);
   file1_->setObjectName("File1");
-  QAction* bmp = AddAction(file1_, "Save1", tr("&Save as BMP"));
+  QAction* bmp = AddAction(file1_, "Save1", QStringLiteral("&Save as BMP"));
   bmp->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
   connect(bmp, &QAction::triggered, this, &TGraphForm::Save1Click);
-  connect(AddAction(file1_, "SaveasJPEG1", tr("Save as &JPEG")), &QAction::triggered, this,
+  connect(AddAction(file1_, "SaveasJPEG1", QStringLiteral("Save as &JPEG")), &QAction::triggered, this,
           &TGraphForm::SaveasJPEG1Click);
-  connect(AddAction(file1_, "SaveasGIF1", tr("Save as &GIF")), &QAction::triggered, this,
+  connect(AddAction(file1_, "SaveasGIF1", QStringLiteral("Save as &GIF")), &QAction::triggered, this,
           &TGraphForm::SaveasGIF1Click);
-  exportCurves1_ = AddAction(file1_, "ExportCurves1", tr("Export Curves as &CSV..."));
+  exportCurves1_ = AddAction(file1_, "ExportCurves1", QStringLiteral("Export Curves as &CSV..."));
   connect(exportCurves1_, &QAction::triggered, this, &TGraphForm::ExportCurves1Click);
-  QAction* print = AddAction(file1_, "Print1", tr("&Print"));
+  QAction* print = AddAction(file1_, "Print1", QStringLiteral("&Print"));
   print->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_P));
   connect(print, &QAction::triggered, this, &TGraphForm::Print1Click);
   file1_->addSeparator()->setObjectName("N1");
-  QAction* exit = AddAction(file1_, "Exit1", tr("E&xit"));
+  QAction* exit = AddAction(file1_, "Exit1", QStringLiteral("E&xit"));
   exit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
   connect(exit, &QAction::triggered, this, &QWidget::close);
   return file1_;
@@ -159,42 +159,42 @@ QMenu* TGraphForm::InsertMenu(const char* name, const QString& title) {
 }
 
 QMenu* TGraphForm::BuildGraphicMenu() {
-  auto* graphic = new QMenu(tr("&Graphic"), this);
+  auto* graphic = new QMenu(QStringLiteral("&Graphic"), this);
   graphic->setObjectName("Graphik1");
-  connect(AddAction(graphic, "Zeichnen1", tr("&Draw")), &QAction::triggered, this, &TGraphForm::Redraw);
-  QAction* copy = AddAction(graphic, "Copy1", tr("&Copy"));
+  connect(AddAction(graphic, "Zeichnen1", QStringLiteral("&Draw")), &QAction::triggered, this, &TGraphForm::Redraw);
+  QAction* copy = AddAction(graphic, "Copy1", QStringLiteral("&Copy"));
   copy->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_C));
   connect(copy, &QAction::triggered, this, &TGraphForm::Copy1Click);
   graphic->addSeparator()->setObjectName("N2");
-  connect(AddAction(graphic, "Vergroessern1", tr("&Increase Window Size")), &QAction::triggered, this,
+  connect(AddAction(graphic, "Vergroessern1", QStringLiteral("&Increase Window Size")), &QAction::triggered, this,
           [this] { Resize(EnlargedSize({width(), height()})); });
-  connect(AddAction(graphic, "Verkleinern1", tr("&Decrease Window Size")), &QAction::triggered, this,
+  connect(AddAction(graphic, "Verkleinern1", QStringLiteral("&Decrease Window Size")), &QAction::triggered, this,
           [this] { Resize(ShrunkSize({width(), height()})); });
-  QAction* standard = AddAction(graphic, "Standardgroesse1", tr("&Standard Size"));
+  QAction* standard = AddAction(graphic, "Standardgroesse1", QStringLiteral("&Standard Size"));
   standard->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
   connect(standard, &QAction::triggered, this, [this] { Resize(StandardSize(screen()->geometry().width())); });
   return graphic;
 }
 
 QMenu* TGraphForm::BuildScalesMenu() {
-  auto* scales = scales1_ = new QMenu(tr("&Scales"), this);
+  auto* scales = scales1_ = new QMenu(QStringLiteral("&Scales"), this);
   scales->setObjectName("Skalierung1");
-  firstScalesItem_ = AddAction(scales, "xAutoskalierung1", tr("&x-Autoscale"));
+  firstScalesItem_ = AddAction(scales, "xAutoskalierung1", QStringLiteral("&x-Autoscale"));
   connect(firstScalesItem_, &QAction::triggered, this, [this] { Autoscale(true, false); });
-  connect(AddAction(scales, "yAutoskalierung1", tr("&y-Autoscale")), &QAction::triggered, this,
+  connect(AddAction(scales, "yAutoskalierung1", QStringLiteral("&y-Autoscale")), &QAction::triggered, this,
           [this] { Autoscale(false, true); });
-  connect(AddAction(scales, "Autoskalierung1", tr("xy-&Autoscale")), &QAction::triggered, this,
+  connect(AddAction(scales, "Autoskalierung1", QStringLiteral("xy-&Autoscale")), &QAction::triggered, this,
           [this] { Autoscale(true, true); });
   scales->addSeparator()->setObjectName("N3");
-  xlog1_ = AddAction(scales, "xlog1", tr("&x-logarithmic"));
+  xlog1_ = AddAction(scales, "xlog1", QStringLiteral("&x-logarithmic"));
   xlog1_->setCheckable(true);
   connect(xlog1_, &QAction::triggered, this, &TGraphForm::xlog1Click);
-  ylog1_ = AddAction(scales, "ylog1", tr("&y-logarithmic"));
+  ylog1_ = AddAction(scales, "ylog1", QStringLiteral("&y-logarithmic"));
   ylog1_->setCheckable(true);
   ylog1_->setEnabled(false);  // the y axis is never logarithmic
   ylog1_->setVisible(false);
   scales->addSeparator()->setObjectName("N4");
-  connect(AddAction(scales, "Ursprungfestlegen1", tr("&Define Origin")), &QAction::triggered, this,
+  connect(AddAction(scales, "Ursprungfestlegen1", QStringLiteral("&Define Origin")), &QAction::triggered, this,
           &TGraphForm::Ursprungfestlegen1Click);
   return scales;
 }
@@ -214,7 +214,7 @@ QToolButton* TGraphForm::AddToolButton(const char* name, int left, const QString
 QCheckBox* TGraphForm::AddCheckBox(const CheckBoxLook& look, bool checked) {
   auto* box = new QCheckBox(QString::fromUtf8(look.caption), panel1_);
   box->setObjectName(look.name);
-  box->setToolTip(tr(look.hint));
+  box->setToolTip(QString::fromUtf8(look.hint));
   box->setChecked(checked);
   box->move(look.left, look.row * kToolBarHeight + (kToolBarHeight - box->sizeHint().height()) / 2);
   return box;
@@ -226,18 +226,19 @@ QWidget* TGraphForm::BuildToolBar() {
   static_cast<QFrame*>(panel1_)->setFrameStyle(QFrame::Panel | QFrame::Sunken);
   panel1_->setFixedHeight(kToolBarHeight);
   const auto icon = [this](QStyle::StandardPixmap p) { return style()->standardIcon(p); };
-  AddToolButton("CloseButton", 4, {}, tr("Close graphic"))->setIcon(icon(QStyle::SP_DialogCloseButton));
-  QToolButton* larger = AddToolButton("VergroessernButton", 40, {}, tr("Increase"));
+  AddToolButton("CloseButton", 4, {}, QStringLiteral("Close graphic"))->setIcon(icon(QStyle::SP_DialogCloseButton));
+  QToolButton* larger = AddToolButton("VergroessernButton", 40, {}, QStringLiteral("Increase"));
   larger->setIcon(icon(QStyle::SP_TitleBarMaxButton));
-  QToolButton* smaller = AddToolButton("VerkleinernButton", 65, {}, tr("Decrease"));
+  QToolButton* smaller = AddToolButton("VerkleinernButton", 65, {}, QStringLiteral("Decrease"));
   smaller->setIcon(icon(QStyle::SP_TitleBarMinButton));
-  QToolButton* standard = AddToolButton("StandardgrButton", 90, {}, tr("Standard size"));
+  QToolButton* standard = AddToolButton("StandardgrButton", 90, {}, QStringLiteral("Standard size"));
   standard->setIcon(icon(QStyle::SP_TitleBarNormalButton));
-  QToolButton* xlog = AddToolButton("xlogButton", 128, tr("x-log"), tr("Switch between linear and logarithmic"));
-  QToolButton* autoscale = AddToolButton("AutoskButton", 153, tr("Auto"), tr("xy-Autoscale"));
-  AddToolButton("DotButton", 191, {}, tr("Dots on/off"))->setIcon(DotsIcon());
-  QToolButton* zoomIn = AddToolButton("ZoomInButton", 216, tr("+"), tr("Zoom in"));
-  QToolButton* zoomOut = AddToolButton("ZoomOutButton", 241, tr("-"), tr("Zoom out"));
+  QToolButton* xlog = AddToolButton("xlogButton", 128, QStringLiteral("x-log"),
+                                    QStringLiteral("Switch between linear and logarithmic"));
+  QToolButton* autoscale = AddToolButton("AutoskButton", 153, QStringLiteral("Auto"), QStringLiteral("xy-Autoscale"));
+  AddToolButton("DotButton", 191, {}, QStringLiteral("Dots on/off"))->setIcon(DotsIcon());
+  QToolButton* zoomIn = AddToolButton("ZoomInButton", 216, QStringLiteral("+"), QStringLiteral("Zoom in"));
+  QToolButton* zoomOut = AddToolButton("ZoomOutButton", 241, QStringLiteral("-"), QStringLiteral("Zoom out"));
   connect(panel1_->findChild<QToolButton*>("CloseButton"), &QToolButton::clicked, this, &QWidget::close);
   connect(larger, &QToolButton::clicked, findChild<QAction*>("Vergroessern1"), &QAction::trigger);
   connect(smaller, &QToolButton::clicked, findChild<QAction*>("Verkleinern1"), &QAction::trigger);
@@ -265,7 +266,8 @@ QWidget* TGraphForm::BuildStatusBar() {
   cursorPanel_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
   cursorPanel_->setFont(arial);
   // As wide as its widest text, so that moving the cursor never lays the status bar out again.
-  cursorPanel_->setFixedWidth(cursorPanel_->fontMetrics().horizontalAdvance(tr("Cursor : f=999.99MHz")) + 8);
+  cursorPanel_->setFixedWidth(cursorPanel_->fontMetrics().horizontalAdvance(QStringLiteral("Cursor : f=999.99MHz")) +
+                              8);
   auto* layout = new QHBoxLayout(bar);
   layout->setContentsMargins(1, 1, 1, 1);
   layout->setSpacing(1);
@@ -287,7 +289,7 @@ void TGraphForm::FormActivate() {
   dotState_ = {!inputs_.options.connect, false};
   diagram::Diagram& d = diagram::CurrentDiagram();
   // The cartesian kind: a logarithmic x axis chosen before is kept, polar and Smith are not.
-  if (diagram::IsRoundMode(d.xMode)) diagram::SetAxisModes(d, diagram::AxisMode::Linear, diagram::AxisMode::Linear);
+  if (diagram::IsRoundMode(d.x.mode)) diagram::SetAxisModes(d, diagram::AxisMode::Linear, diagram::AxisMode::Linear);
   ComputeCurves();
   ResetScale(d);
   ShowScaleModes();
@@ -297,8 +299,8 @@ void TGraphForm::FormActivate() {
 
 void TGraphForm::ShowScaleModes() {
   const diagram::Diagram& d = diagram::CurrentDiagram();
-  xlog1_->setChecked(d.xMode == diagram::AxisMode::Log);
-  ylog1_->setChecked(d.yMode == diagram::AxisMode::Log);
+  xlog1_->setChecked(d.x.mode == diagram::AxisMode::Log);
+  ylog1_->setChecked(d.y.mode == diagram::AxisMode::Log);
 }
 
 // Activation is due when the user comes back from another window of the program, but not from
@@ -321,10 +323,10 @@ void TGraphForm::Redraw() {
   if (!activated_ || image_->width() < kSmallestSide || image_->height() < kSmallestSide) return;
   if (requested_) {
     diagram::Diagram& d = diagram::CurrentDiagram();
-    d.xMin = requested_->xMin;
-    d.xMax = requested_->xMax;
-    d.yMin = requested_->yMin;
-    d.yMax = requested_->yMax;
+    d.x.min = requested_->x.min;
+    d.x.max = requested_->x.max;
+    d.y.min = requested_->y.min;
+    d.y.max = requested_->y.max;
   }
   picture_ = QImage(image_->size(), QImage::Format_RGB32);
   {

@@ -30,7 +30,8 @@ void TGraphForm::Copy1Click() { QGuiApplication::clipboard()->setImage(picture_)
 
 void TGraphForm::Save1Click() {
   const QString path = controls::ChooseSaveFile(
-      this, PictureDialog(tr("Save as BMP"), tr("Bitmap Files (*.bmp)"), "bmp", lastPictureFile_));
+      this,
+      PictureDialog(QStringLiteral("Save as BMP"), QStringLiteral("Bitmap Files (*.bmp)"), "bmp", lastPictureFile_));
   if (path.isEmpty()) return;
   const imageexport::ExportResult written = imageexport::SaveBmp(picture_, path.toStdString());
   if (written.Ok()) {
@@ -42,8 +43,8 @@ void TGraphForm::Save1Click() {
 
 // The picture goes to the file by way of the clipboard, which keeps it afterwards.
 void TGraphForm::SaveasJPEG1Click() {
-  const QString path =
-      controls::ChooseSaveFile(this, PictureDialog(tr("Save as JPEG"), tr("JPEG Files (*.jpg)"), "jpg"));
+  const QString path = controls::ChooseSaveFile(
+      this, PictureDialog(QStringLiteral("Save as JPEG"), QStringLiteral("JPEG Files (*.jpg)"), "jpg"));
   if (path.isEmpty()) return;
   QClipboard* clipboard = QGuiApplication::clipboard();
   clipboard->setImage(picture_);
@@ -52,15 +53,17 @@ void TGraphForm::SaveasJPEG1Click() {
 }
 
 void TGraphForm::SaveasGIF1Click() {
-  const QString path = controls::ChooseSaveFile(this, PictureDialog(tr("Save as GIF"), tr("GIF Image (*.gif)"), "gif"));
+  const QString path = controls::ChooseSaveFile(
+      this, PictureDialog(QStringLiteral("Save as GIF"), QStringLiteral("GIF Image (*.gif)"), "gif"));
   if (path.isEmpty()) return;
   const imageexport::ExportResult written = imageexport::SaveGif(picture_, path.toStdString());
   if (!written.Ok()) controls::ShowMessage(this, QString::fromStdString(written.error));
 }
 
 void TGraphForm::ExportCurves1Click() {
-  const QString path = controls::ChooseSaveFile(
-      this, {"SaveDialogCSV", tr("Export Curves as CSV"), tr("CSV Files (*.csv)"), QStringLiteral("csv"), QString()});
+  const QString path =
+      controls::ChooseSaveFile(this, {"SaveDialogCSV", QStringLiteral("Export Curves as CSV"),
+                                      QStringLiteral("CSV Files (*.csv)"), QStringLiteral("csv"), QString()});
   if (!path.isEmpty()) WriteTextFile(path, CurvesCsv());
 }
 
@@ -72,8 +75,8 @@ void TGraphForm::WriteTextFile(const QString& path, const std::string& text) {
 
 void TGraphForm::SaveTable(const std::string& text) {
   const QString path = controls::ChooseSaveFile(
-      this, {"SaveDialogTabelle", tr("Save Table"), tr("Table File (*.tab)"), QStringLiteral("TAB"),
-             QStringLiteral("*.TAB")});
+      this, {"SaveDialogTabelle", QStringLiteral("Save Table"), QStringLiteral("Table File (*.tab)"),
+             QStringLiteral("TAB"), QStringLiteral("*.TAB")});
   if (!path.isEmpty()) WriteTextFile(path, text);
 }
 
@@ -87,13 +90,13 @@ void TGraphForm::PrinterSetupClick() { controls::SetUpPrinter(this, Printer()); 
 void TGraphForm::Print1Click() {
   QPrinter& printer = Printer();
   if (PrintsBitmap() && printer.printerState() == QPrinter::Active) {
-    controls::ShowMessage(this, tr("Printer is already active!"));
+    controls::ShowMessage(this, QStringLiteral("Printer is already active!"));
     return;
   }
   if (!controls::ChoosePrinter(this, printer)) return;
   QPainter painter;
   if (!painter.begin(&printer)) {
-    controls::ShowMessage(this, tr("The printer could not be started. Check the printer and print again!"));
+    controls::ShowMessage(this, QStringLiteral("The printer could not be started. Check the printer and print again!"));
     return;
   }
   PrintPage(painter, QSize(printer.width(), printer.height()));

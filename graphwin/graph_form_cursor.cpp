@@ -28,7 +28,7 @@ std::optional<double> ValueAt(const plots::FrequencyCurve& curve, double frequen
 }
 
 bool IsInRange(const diagram::Diagram& d, const QPointF& p) {
-  return p.x() >= d.xMin && p.x() <= d.xMax && p.y() >= d.yMin && p.y() <= d.yMax;
+  return p.x() >= d.x.min && p.x() <= d.x.max && p.y() >= d.y.min && p.y() <= d.y.max;
 }
 
 QPoint PixelOf(const diagram::Diagram& d, const QPointF& p) {
@@ -80,7 +80,7 @@ void TGraphForm::ShowCursor(std::optional<double> frequency) {
   }
   image_->ShowMarks(std::move(marks));
   const std::string text = frequency ? numerics::TrimLeftText(numerics::FormatPrefixed(2, *frequency)) : "";
-  cursorPanel_->setText(frequency ? tr("Cursor : f=%1Hz").arg(QString::fromStdString(text)) : QString());
+  cursorPanel_->setText(frequency ? QStringLiteral("Cursor : f=%1Hz").arg(QString::fromStdString(text)) : QString());
 }
 
 std::optional<double> TGraphForm::NearestFrequency(QPoint at) const {

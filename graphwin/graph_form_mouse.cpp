@@ -35,12 +35,12 @@ bool IsAtEnd(const Diagram& d, AxisEnd end, double x, double y) {
 
 double& LimitOf(Diagram& d, AxisEnd end) {
   switch (end) {
-    case AxisEnd::XMax: return d.xMax;
-    case AxisEnd::XMin: return d.xMin;
-    case AxisEnd::YMin: return d.yMin;
+    case AxisEnd::XMax: return d.x.max;
+    case AxisEnd::XMin: return d.x.min;
+    case AxisEnd::YMin: return d.y.min;
     case AxisEnd::YMax: break;
   }
-  return d.yMax;
+  return d.y.max;
 }
 
 double GridStep(double min, double max) { return numerics::NiceStep((max - min) / 50); }
@@ -68,10 +68,10 @@ void TGraphForm::AskAxisLimit(AxisEnd end, QPoint at) {
   double& limit = LimitOf(d, end);
   limit = AskValue(QString::fromStdString(AxisLabel(end)), limit, AxisBounds(end), pos() + at + kDialogOffset);
   if (IsXEnd(end)) {
-    d.xStep = GridStep(d.xMin, d.xMax);
+    d.x.step = GridStep(d.x.min, d.x.max);
     diagram::RecomputeXAxis(d);
   } else {
-    d.yStep = GridStep(d.yMin, d.yMax);
+    d.y.step = GridStep(d.y.min, d.y.max);
     diagram::RecomputeYAxis(d);
   }
   Rescaled();
@@ -94,12 +94,12 @@ void TGraphForm::ImageMouseUp(QPoint at, Qt::MouseButton button) {
   const QPointF end = WorldPoint(drawn, at);
   if (rubberStart_ && end.x() > rubberStart_->x() && end.y() < rubberStart_->y()) {
     Diagram& d = diagram::CurrentDiagram();
-    d.xMin = rubberStart_->x();
-    d.xMax = end.x();
-    d.yMin = end.y();
-    d.yMax = rubberStart_->y();
-    d.xStep = GridStep(d.xMin, d.xMax);
-    d.yStep = GridStep(d.yMin, d.yMax);
+    d.x.min = rubberStart_->x();
+    d.x.max = end.x();
+    d.y.min = end.y();
+    d.y.max = rubberStart_->y();
+    d.x.step = GridStep(d.x.min, d.x.max);
+    d.y.step = GridStep(d.y.min, d.y.max);
     diagram::RecomputeXAxis(d);
     diagram::RecomputeYAxis(d);
     rubberStart_.reset();
@@ -127,7 +127,7 @@ void TGraphForm::ImageMouseMove(QPoint at) {
 
 void TGraphForm::ImageDblClick() {
   const Diagram& d = diagram::CurrentDiagram();
-  const bool polar = d.xMode == diagram::AxisMode::Polar || d.yMode == diagram::AxisMode::Polar;
+  const bool polar = d.x.mode == diagram::AxisMode::Polar || d.y.mode == diagram::AxisMode::Polar;
   if (polar && !DefinesOriginOnEveryDoubleClick()) {
     QApplication::beep();
     return;
@@ -138,8 +138,8 @@ void TGraphForm::ImageDblClick() {
 void TGraphForm::Ursprungfestlegen1Click() {
   Diagram& d = diagram::CurrentDiagram();
   const QPoint middle = pos() + QPoint(width() / 2, height() / 2) + kOriginDialogOffset;
-  d.xCross = AskValue(QStringLiteral("xo="), d.xCross, {d.xMin, d.xMax}, middle);
-  d.yCross = AskValue(QStringLiteral("yo="), d.yCross, {d.yMin, d.yMax}, middle);
+  d.x.cross = AskValue(QStringLiteral("xo="), d.x.cross, {d.x.min, d.x.max}, middle);
+  d.y.cross = AskValue(QStringLiteral("yo="), d.y.cross, {d.y.min, d.y.max}, middle);
   Redraw();
 }
 
@@ -169,7 +169,7 @@ void TGraphForm::xlog1Click() {
     return;
   }
   Diagram& d = diagram::CurrentDiagram();
-  diagram::SetAxisModes(d, xlog1_->isChecked() ? diagram::AxisMode::Log : diagram::AxisMode::Linear, d.yMode);
+  diagram::SetAxisModes(d, xlog1_->isChecked() ? diagram::AxisMode::Log : diagram::AxisMode::Linear, d.y.mode);
   Autoscale(true, false);
 }
 

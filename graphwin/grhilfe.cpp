@@ -43,7 +43,7 @@ QLabel* MakeLabel(QWidget* parent, const char* text, bool heading) {
 
 TGRHilfeBox::TGRHilfeBox(QWidget* parent) : QDialog(parent) {
   setObjectName("GRHilfeBox");
-  setWindowTitle(tr("Help for Graphics"));
+  setWindowTitle(QStringLiteral("Help for Graphics"));
   auto* panel = new QFrame(this);
   panel->setObjectName("Panel1");
   panel->setFrameShape(QFrame::StyledPanel);
@@ -54,7 +54,7 @@ TGRHilfeBox::TGRHilfeBox(QWidget* parent) : QDialog(parent) {
     grid->addWidget(MakeLabel(panel, pair.text, false), row++, 1);
   }
   grid->setColumnStretch(1, 1);
-  auto* ok = new QPushButton(tr("OK"), this);
+  auto* ok = new QPushButton(QStringLiteral("OK"), this);
   ok->setObjectName("OKButton");
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   auto* layout = new QVBoxLayout(this);

@@ -27,14 +27,14 @@ plots::GainChoice ChoiceOf(const std::array<QCheckBox*, 4>& boxes) {
 }  // namespace
 
 TFormG::TFormG(InputsSource inputs, const GraphDialogs& dialogs)
-    : TGraphForm("FormG", tr("Gain"), std::move(inputs), dialogs) {
+    : TGraphForm("FormG", QStringLiteral("Gain"), std::move(inputs), dialogs) {
   const plots::GainChoice initial;
   const bool checked[] = {initial.mag, initial.mason, initial.mug, initial.s21};
   for (std::size_t i = 0; i < checkBoxes_.size(); ++i) {
     checkBoxes_[i] = AddCheckBox(kBoxes[i], checked[i]);
     connect(checkBoxes_[i], &QCheckBox::clicked, this, [this, i] { CheckBoxClick(static_cast<GainBox>(i)); });
   }
-  QAction* table = InsertFileItem("WerteinTabellespeichern1", tr("Save &Table"));
+  QAction* table = InsertFileItem("WerteinTabellespeichern1", QStringLiteral("Save &Table"));
   table->setVisible(false);
   connect(table, &QAction::triggered, this, &TFormG::WerteinTabellespeichern1Click);
 }
@@ -57,7 +57,7 @@ std::string TFormG::ReadOutText(double x, double y) const { return plots::GainRe
 // A logarithmic axis cannot start at 0.
 Bounds TFormG::AxisBounds(AxisEnd end) const {
   if (!IsXEnd(end)) return {-kGainBound, kGainBound};
-  const bool logX = diagram::CurrentDiagram().xMode == diagram::AxisMode::Log;
+  const bool logX = diagram::CurrentDiagram().x.mode == diagram::AxisMode::Log;
   return {end == AxisEnd::XMin && logX ? 1.0 : 0.0, kHighestFrequencyBound};
 }
 

@@ -18,14 +18,14 @@ constexpr Bounds kValueBounds{-100, 100};
 }  // namespace
 
 TFormK::TFormK(InputsSource inputs, const GraphDialogs& dialogs)
-    : TGraphForm("FormK", tr("Stability Factor, etc."), std::move(inputs), dialogs) {
+    : TGraphForm("FormK", QStringLiteral("Stability Factor, etc."), std::move(inputs), dialogs) {
   const plots::StabilityChoice initial;
   const bool checked[] = {initial.k, initial.u, initial.mu};
   for (std::size_t i = 0; i < checkBoxes_.size(); ++i) {
     checkBoxes_[i] = AddCheckBox(kBoxes[i], checked[i]);
     connect(checkBoxes_[i], &QCheckBox::clicked, this, &TFormK::CheckBoxClick);
   }
-  QAction* table = InsertFileItem("WerteinTabellespeichern1", tr("Save &Table Data"));
+  QAction* table = InsertFileItem("WerteinTabellespeichern1", QStringLiteral("Save &Table Data"));
   table->setVisible(false);
   connect(table, &QAction::triggered, this,
           [this] { SaveTable(plots::StabilityTableText(plots::HighestFrequency(plot_))); });

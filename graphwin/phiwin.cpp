@@ -22,13 +22,13 @@ constexpr int kCirclesLabelLeft = 300;
 TFormPhi::TFormPhi(InputsSource inputs, const GraphDialogs& dialogs)
     : TSParameterForm("FormPhi", plots::SWindow::Reflection, plots::SView::Smith, std::move(inputs), dialogs) {
   const QString locus = QStringLiteral("Ortskurvendarstellung");
-  AddViewItem("Polar1", tr("&Polar"), plots::SView::Polar)->setToolTip(locus);
-  AddViewItem("SmithDiagramm1", tr("&Smith"), plots::SView::Smith);
-  AddViewItem("Kartesisch1", tr("&Cartesian"), plots::SView::Cartesian)->setToolTip(locus);
+  AddViewItem("Polar1", QStringLiteral("&Polar"), plots::SView::Polar)->setToolTip(locus);
+  AddViewItem("SmithDiagramm1", QStringLiteral("&Smith"), plots::SView::Smith);
+  AddViewItem("Kartesisch1", QStringLiteral("&Cartesian"), plots::SView::Cartesian)->setToolTip(locus);
   InsertScalesSeparator("N5");
-  AddViewItem("Sii11", tr("Magnitude of Sii vs Frequency"), plots::SView::Magnitude);
-  AddViewItem("dBSii1", tr("20log|Sii| vs Frequency"), plots::SView::Decibels);
-  AddViewItem("PhiSii1", tr("Phase Sii vs Frequency"), plots::SView::Phase);
+  AddViewItem("Sii11", QStringLiteral("Magnitude of Sii vs Frequency"), plots::SView::Magnitude);
+  AddViewItem("dBSii1", QStringLiteral("20log|Sii| vs Frequency"), plots::SView::Decibels);
+  AddViewItem("PhiSii1", QStringLiteral("Phase Sii vs Frequency"), plots::SView::Phase);
   findChild<QAction*>("Print1")->setObjectName("Drucken1");
   findChild<QAction*>("Exit1")->setObjectName("Exit2");
   AddPrinterSetupItem("Drucken2");
@@ -37,12 +37,12 @@ TFormPhi::TFormPhi(InputsSource inputs, const GraphDialogs& dialogs)
 }
 
 void TFormPhi::BuildParameterMenu() {
-  QMenu* menu = InsertMenu("Parameter1", tr("&Parameters"));
+  QMenu* menu = InsertMenu("Parameter1", QStringLiteral("&Parameters"));
   auto* charts = new QActionGroup(this);
   const std::pair<const char*, diagram::ChartKind> kCharts[] = {{"YChart", diagram::ChartKind::Admittance},
                                                                  {"ZChart", diagram::ChartKind::Impedance},
                                                                  {"ZYChart", diagram::ChartKind::Combined}};
-  const QString captions[] = {tr("&Y-Chart"), tr("&Z-Chart"), tr("ZY-&Chart")};
+  const QString captions[] = {QStringLiteral("&Y-Chart"), QStringLiteral("&Z-Chart"), QStringLiteral("ZY-&Chart")};
   for (std::size_t i = 0; i < std::size(kCharts); ++i) {
     QAction* item = charts->addAction(captions[i]);
     item->setObjectName(kCharts[i].first);
@@ -55,13 +55,13 @@ void TFormPhi::BuildParameterMenu() {
     });
   }
   menu->addSeparator()->setObjectName("N1");
-  QAction* constantQ = menu->addAction(tr("Circles: &Q=const."));
+  QAction* constantQ = menu->addAction(QStringLiteral("Circles: &Q=const."));
   constantQ->setObjectName("constantQ1");
   connect(constantQ, &QAction::triggered, this, &TFormPhi::constantQ1Click);
-  deleteQ_ = menu->addAction(tr("Delete Last Q-Circle"));
+  deleteQ_ = menu->addAction(QStringLiteral("Delete Last Q-Circle"));
   deleteQ_->setObjectName("DeleteQ");
   connect(deleteQ_, &QAction::triggered, this, &TFormPhi::DeleteQClick);
-  delAllQ_ = menu->addAction(tr("Delete All Q-Circles"));
+  delAllQ_ = menu->addAction(QStringLiteral("Delete All Q-Circles"));
   delAllQ_->setObjectName("DelAllQ");
   connect(delAllQ_, &QAction::triggered, this, &TFormPhi::DelAllQClick);
   EnableDeleteItems();
@@ -69,12 +69,13 @@ void TFormPhi::BuildParameterMenu() {
 
 // The circles at one point of the first file, chosen by a spin button beside its frequency.
 void TFormPhi::BuildCirclesMenu() {
-  QAction* show = InsertMenu("Circles1", tr("C&ircles"))->addAction(tr("&Stability Circles and Conjugate Match"));
+  QAction* show = InsertMenu("Circles1", QStringLiteral("C&ircles"))
+                      ->addAction(QStringLiteral("&Stability Circles and Conjugate Match"));
   show->setObjectName("StabilityCircles1");
   show->setCheckable(true);
   spinButtonCircles_ = new controls::TSpinButton(ToolPanel());
   spinButtonCircles_->setObjectName("SpinButtonCircles");
-  spinButtonCircles_->setToolTip(tr("Frequency of the stability circles"));
+  spinButtonCircles_->setToolTip(QStringLiteral("Frequency of the stability circles"));
   spinButtonCircles_->setGeometry(kSpinLeft, 3, 18, ToolPanel()->height() - 6);
   labelCircles_ = new QLabel(ToolPanel());
   labelCircles_->setObjectName("LabelCircles");
@@ -139,8 +140,8 @@ void TFormPhi::ShowCirclesFrequency() {
     return;
   }
   const double frequency = file->set->frequency[static_cast<std::size_t>(circlesPoint_)];
-  labelCircles_->setText("f=" + QString::fromStdString(numerics::TrimLeftText(numerics::FormatPrefixed(2, frequency))) +
-                         "Hz");
+  const std::string shown = numerics::TrimLeftText(numerics::FormatPrefixed(2, frequency));
+  labelCircles_->setText(QStringLiteral("f=%1Hz").arg(QString::fromStdString(shown)));
 }
 
 // A file with fewer points than before brings the circles' point back within it.

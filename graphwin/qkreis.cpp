@@ -14,8 +14,8 @@ namespace graphwin {
 
 TQcircle::TQcircle(QWidget* parent) : QDialog(parent) {
   setObjectName("Qcircle");
-  setWindowTitle(tr("Constant Q Circle"));
-  auto* label = new QLabel(tr("Input for Q value :"), this);
+  setWindowTitle(QStringLiteral("Constant Q Circle"));
+  auto* label = new QLabel(QStringLiteral("Input for Q value :"), this);
   edit1_ = new QLineEdit(this);
   edit1_->setObjectName("Edit1");
   label->setBuddy(edit1_);
@@ -23,10 +23,10 @@ TQcircle::TQcircle(QWidget* parent) : QDialog(parent) {
   bevel->setObjectName("Bevel1");
   bevel->setFrameShape(QFrame::HLine);
   bevel->setFrameShadow(QFrame::Sunken);
-  auto* ok = new QPushButton(tr("OK"), this);
+  auto* ok = new QPushButton(QStringLiteral("OK"), this);
   ok->setObjectName("OKBtn");
   ok->setDefault(true);
-  auto* cancel = new QPushButton(tr("Cancel"), this);
+  auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
   cancel->setObjectName("CancelBtn");
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(ok);

@@ -15,7 +15,7 @@ constexpr Bounds kYBounds{-1000, 1000};
 
 TSParameterForm::TSParameterForm(const char* name, plots::SWindow window, plots::SView startView, InputsSource inputs,
                                  const GraphDialogs& dialogs)
-    : TGraphForm(name, tr("S-Parameters"), std::move(inputs), dialogs),
+    : TGraphForm(name, QStringLiteral("S-Parameters"), std::move(inputs), dialogs),
       window_(window),
       startView_(startView),
       view_(startView),
@@ -33,7 +33,8 @@ QAction* TSParameterForm::AddViewItem(const char* name, const QString& caption, 
 }
 
 void TSParameterForm::AddPrinterSetupItem(const char* name) {
-  connect(InsertFileItem(name, tr("Printer &Setup")), &QAction::triggered, this, &TSParameterForm::PrinterSetupClick);
+  connect(InsertFileItem(name, QStringLiteral("Printer &Setup")), &QAction::triggered, this,
+          &TSParameterForm::PrinterSetupClick);
 }
 
 void TSParameterForm::SetView(plots::SView view) {
@@ -92,7 +93,7 @@ std::vector<double> TSParameterForm::YValues() const { return plots::YValuesOf(p
 std::string TSParameterForm::CurvesCsv() const { return plots::SParameterCsv(plot_); }
 
 std::string TSParameterForm::LogXRefusal() const {
-  switch (diagram::CurrentDiagram().xMode) {
+  switch (diagram::CurrentDiagram().x.mode) {
     case diagram::AxisMode::Smith: return "log not available for Smith chart!";
     case diagram::AxisMode::Polar: return "log not available for polar diagram!";
     default: return {};

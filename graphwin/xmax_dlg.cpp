@@ -27,10 +27,10 @@ QPushButton* MakeButton(QWidget* parent, const char* name, const QString& captio
 
 TXmaxDlg1::TXmaxDlg1(QWidget* parent) : QDialog(parent) {
   setObjectName("XmaxDlg1");
-  setWindowTitle(tr("Axis Scale"));
-  QPushButton* ok = MakeButton(this, "OKBtn", tr("OK"));
+  setWindowTitle(QStringLiteral("Axis Scale"));
+  QPushButton* ok = MakeButton(this, "OKBtn", QStringLiteral("OK"));
   ok->setDefault(true);
-  QPushButton* cancel = MakeButton(this, "CancelBtn", tr("Cancel"));
+  QPushButton* cancel = MakeButton(this, "CancelBtn", QStringLiteral("Cancel"));
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(ok);
   buttons->addWidget(cancel);

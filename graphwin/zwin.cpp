@@ -39,7 +39,7 @@ constexpr double kHighestFrequencyBound = 1e11;
 }  // namespace
 
 TFormZ::TFormZ(InputsSource inputs, const GraphDialogs& dialogs)
-    : TGraphForm("FormZ", tr("Impedance Z(f)"), std::move(inputs), dialogs) {
+    : TGraphForm("FormZ", QStringLiteral("Impedance Z(f)"), std::move(inputs), dialogs) {
   ToolPanel()->setFixedHeight(2 * ToolPanel()->height());
   const plots::ImpedanceChoice initial;
   const bool checked[] = {initial.sym, initial.port1, initial.port2, initial.cross, initial.image};
@@ -48,14 +48,14 @@ TFormZ::TFormZ(InputsSource inputs, const GraphDialogs& dialogs)
     connect(checkBoxes_[i], &QCheckBox::clicked, this, &TFormZ::CheckBoxClick);
   }
   BuildModeItems();
-  connect(InsertFileItem("Druckereinstellung1", tr("Printer &Setup")), &QAction::triggered, this,
+  connect(InsertFileItem("Druckereinstellung1", QStringLiteral("Printer &Setup")), &QAction::triggered, this,
           &TFormZ::PrinterSetupClick);
 }
 
 void TFormZ::BuildModeItems() {
   auto* group = new QActionGroup(this);
   for (const ModeItem& item : kModes) {
-    QAction* action = InsertScalesItem(item.name, tr(item.caption));
+    QAction* action = InsertScalesItem(item.name, QString::fromUtf8(item.caption));
     action->setCheckable(true);
     action->setChecked(item.mode == mode_);
     group->addAction(action);
@@ -91,7 +91,7 @@ std::string TFormZ::ReadOutText(double x, double y) const { return plots::Impeda
 
 // A logarithmic frequency axis cannot start at 0.
 Bounds TFormZ::AxisBounds(AxisEnd end) const {
-  const bool logX = diagram::CurrentDiagram().xMode == diagram::AxisMode::Log;
+  const bool logX = diagram::CurrentDiagram().x.mode == diagram::AxisMode::Log;
   switch (end) {
     case AxisEnd::XMax: return {1, kHighestFrequencyBound};
     case AxisEnd::XMin: return {logX ? 1.0 : 0.0, kHighestFrequencyBound};

@@ -79,8 +79,8 @@ void DrawRingEntry(const Layout& layout, int line, Canvas& canvas) {
 }  // namespace
 
 QRect LegendBox(const diagram::Diagram& d, const PageGraph& graph, const QSize& size, std::span<const QRect> texts) {
-  const int left = d.pixLeft + kInset, right = d.pixRight - kInset - size.width();
-  const int top = d.pixTop + kInset, bottom = d.pixBottom - kInset - size.height();
+  const int left = d.x.pixMin + kInset, right = d.x.pixMax - kInset - size.width();
+  const int top = d.y.pixMax + kInset, bottom = d.y.pixMin - kInset - size.height();
   const std::array<QRect, 4> corners = {QRect({right, top}, size), QRect({left, top}, size),
                                         QRect({right, bottom}, size), QRect({left, bottom}, size)};
   QRect best = corners.front();

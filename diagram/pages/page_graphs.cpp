@@ -50,10 +50,10 @@ void ScaleAxes(const PageGraph& graph, diagram::Diagram& d) {
   }
   const std::vector<double> y = AllY(graph);
   if (!y.empty()) diagram::AutoscaleY(d, y, static_cast<int>(y.size()));
-  if (d.yMax < graph.leastYMax) d.yMax = graph.leastYMax;
-  WidenEmptyRange(d.xMin, d.xMax);
-  WidenEmptyRange(d.yMin, d.yMax);
-  d.yStep = numerics::NiceStep((d.yMax - 0) / 50);
+  if (d.y.max < graph.leastYMax) d.y.max = graph.leastYMax;
+  WidenEmptyRange(d.x.min, d.x.max);
+  WidenEmptyRange(d.y.min, d.y.max);
+  d.y.step = numerics::NiceStep((d.y.max - 0) / 50);
 }
 
 // Returns whether a ring was drawn, which is when the legend says what a ring means.
@@ -74,7 +74,7 @@ bool DrawRings(const diagram::Diagram& d, const PageGraph& graph, Canvas& c) {
 void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
   diagram::Diagram& d = diagram::CurrentDiagram();
   ScaleAxes(graph, d);
-  diagram::DrawFrame(d, c, diagram::GridFrame(d.xLabelEvery, d.yLabelEvery));
+  diagram::DrawFrame(d, c, diagram::GridFrame(d.x.labelEvery, d.y.labelEvery));
   const int count = static_cast<int>(graph.x.size());
   for (const PlotSeries& s : graph.series) {
     diagram::SetDrawColour(s.colour, c);

@@ -10,15 +10,15 @@ constexpr double kFallbackHighestFrequency = 1e10;
 }  // namespace
 
 void SetFrequencyDefaults(diagram::Diagram& d, double highestFrequency, const FrequencyDefaults& defaults) {
-  d.xMax = numerics::NiceStep(highestFrequency > 0 ? highestFrequency : kFallbackHighestFrequency);
-  d.xMin = d.xMax / defaults.lowestDivisor;
-  d.xStep = numerics::NiceStep(d.xMax / 50);
-  d.yMin = defaults.yMin;
-  d.yMax = defaults.yMax;
-  d.yStep = defaults.yStep;
-  d.xCross = d.xMin;
-  d.yCross = 0;
-  d.xLabelEvery = d.yLabelEvery = defaults.labelEvery;
+  d.x.max = numerics::NiceStep(highestFrequency > 0 ? highestFrequency : kFallbackHighestFrequency);
+  d.x.min = d.x.max / defaults.lowestDivisor;
+  d.x.step = numerics::NiceStep(d.x.max / 50);
+  d.y.min = defaults.yMin;
+  d.y.max = defaults.yMax;
+  d.y.step = defaults.yStep;
+  d.x.cross = d.x.min;
+  d.y.cross = 0;
+  d.x.labelEvery = d.y.labelEvery = defaults.labelEvery;
   d.firstIndex = 0;
 }
 

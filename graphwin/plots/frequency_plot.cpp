@@ -37,7 +37,7 @@ int DrawnPoints(const Diagram& d, const FrequencyCurve& curve, const PlotLook& l
   std::copy(curve.frequency.begin(), curve.frequency.end(), x.begin());
   std::copy(curve.value.begin(), curve.value.end(), y.begin());
   int last = count - 1;
-  diagram::SplineResample(x, y, last, d.xMode == diagram::AxisMode::Log, false, diagram::kSplineMaxPoints);
+  diagram::SplineResample(x, y, last, d.x.mode == diagram::AxisMode::Log, false, diagram::kSplineMaxPoints);
   return last + 1;
 }
 
@@ -62,10 +62,10 @@ void DrawCurve(const Diagram& d, const FrequencyCurve& curve, const PlotLook& lo
 // Clear of the vertical axis's title.
 void DrawHeadings(const Diagram& d, const FrequencyPlot& plot, Canvas& c) {
   diagram::SetDrawColour(diagram::kBlack, c);
-  c.TextOut(d.pixRight - c.TextWidth(plot.title), 2, plot.title);
+  c.TextOut(d.x.pixMax - c.TextWidth(plot.title), 2, plot.title);
   const int bottomLine = c.Height() - c.TextHeight(plot.heading) - 2;
   c.TextOut(kMargin, bottomLine, plot.heading);
-  c.TextOut(d.pixRight - c.TextWidth(plot.comment), bottomLine, plot.comment);
+  c.TextOut(d.x.pixMax - c.TextWidth(plot.comment), bottomLine, plot.comment);
 }
 
 Legend LegendOf(const FrequencyPlot& plot) {
@@ -83,8 +83,8 @@ void DrawLegend(const Diagram& d, const Legend& legend, LegendCorner corner, Can
   const int line = c.TextHeight(legend.heading);
   const int lines = static_cast<int>(legend.entries.size()) + 2;
   const bool upperRight = corner == LegendCorner::UpperRight;
-  const int left = upperRight ? d.pixRight - kMargin - width : d.pixLeft + kMargin;
-  int top = upperRight ? d.pixTop + kMargin : d.pixBottom - kMargin - lines * line;
+  const int left = upperRight ? d.x.pixMax - kMargin - width : d.x.pixMin + kMargin;
+  int top = upperRight ? d.y.pixMax + kMargin : d.y.pixMin - kMargin - lines * line;
   diagram::SetDrawColour(diagram::kBlack, c);
   c.TextOut(left, top, legend.heading);
   for (const LegendEntry& entry : legend.entries) {
@@ -121,7 +121,7 @@ std::string PositionText(double frequency) {
 
 void DrawFrequencyPlot(const FrequencyPlot& plot, const PlotLook& look, Canvas& canvas) {
   Diagram& d = diagram::CurrentDiagram();
-  diagram::DrawFrame(d, canvas, diagram::GridFrame(d.xLabelEvery, d.yLabelEvery));
+  diagram::DrawFrame(d, canvas, diagram::GridFrame(d.x.labelEvery, d.y.labelEvery));
   DrawHeadings(d, plot, canvas);
   for (const FrequencyCurve& curve : plot.curves) DrawCurve(d, curve, look, canvas);
   if (look.legend) DrawLegend(d, LegendOf(plot), LegendCorner::UpperRight, canvas);

@@ -96,7 +96,7 @@ FrequencyPlot BuildImpedancePlot(const GraphInputs& inputs, const ImpedanceChoic
 
 void SetImpedanceDefaults(diagram::Diagram& d, double highestFrequency) {
   SetFrequencyDefaults(d, highestFrequency, kImpedanceDefaults);
-  d.xStep = numerics::NiceStep((d.xMax - d.xMin) / 50);
+  d.x.step = numerics::NiceStep((d.x.max - d.x.min) / 50);
 }
 
 std::string ImpedanceReadOut(double x, double y, ImpedanceMode mode) {

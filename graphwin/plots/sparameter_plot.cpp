@@ -145,26 +145,26 @@ std::optional<Span> SpanOf(const diagram::LoadedFile& file, double frequency) {
 
 void SetRoundRange(diagram::Diagram& d, AxisMode mode, double limit) {
   diagram::SetAxisModes(d, mode, mode);
-  d.xMin = d.yMin = -limit;
-  d.xMax = d.yMax = limit;
-  d.xCross = d.yCross = 0;
-  d.xStep = d.yStep = numerics::NiceStep(limit / (mode == AxisMode::Smith ? 25 : 20));
+  d.x.min = d.y.min = -limit;
+  d.x.max = d.y.max = limit;
+  d.x.cross = d.y.cross = 0;
+  d.x.step = d.y.step = numerics::NiceStep(limit / (mode == AxisMode::Smith ? 25 : 20));
 }
 
 void SetFrequencyRange(diagram::Diagram& d, const SParameterPlot& plot) {
   diagram::SetAxisModes(d, AxisMode::Linear, AxisMode::Linear);
   const double highest = HighestFrequency(plot.curves);
-  d.xMin = 0;
-  d.xMax = highest > 0 ? highest : kFallbackHighestFrequency;
-  d.xStep = numerics::NiceStep(d.xMax / 50);
-  d.xCross = d.xMin;
+  d.x.min = 0;
+  d.x.max = highest > 0 ? highest : kFallbackHighestFrequency;
+  d.x.step = numerics::NiceStep(d.x.max / 50);
+  d.x.cross = d.x.min;
   if (plot.view == SView::Magnitude) {
-    d.yMin = d.yCross = 0;
-    d.yMax = LargestMagnitude(plot);
-    d.yStep = numerics::NiceStep(d.yMax / 50);
+    d.y.min = d.y.cross = 0;
+    d.y.max = LargestMagnitude(plot);
+    d.y.step = numerics::NiceStep(d.y.max / 50);
   } else {
-    d.yMin = -1;  // kept when there is nothing to autoscale
-    d.yMax = 1;
+    d.y.min = -1;  // kept when there is nothing to autoscale
+    d.y.max = 1;
     const std::vector<double> values = AllValues(plot.curves);
     diagram::AutoscaleY(d, values, static_cast<int>(values.size()));
   }
@@ -193,7 +193,7 @@ void DrawLocusPlot(const SParameterPlot& plot, const PlotLook& look, const Locus
   diagram::Diagram& d = diagram::CurrentDiagram();
   const bool smith = plot.view == SView::Smith;
   diagram::DrawFrame(d, c, smith ? diagram::SmithFrame(locus.chart, locus.z0)
-                                 : diagram::GridFrame(d.xLabelEvery, d.yLabelEvery));
+                                 : diagram::GridFrame(d.x.labelEvery, d.y.labelEvery));
   if (smith) {
     for (const double q : locus.qValues) diagram::DrawQArcs(d, c, q);
   }
@@ -244,7 +244,7 @@ SParameterPlot BuildSParameterPlot(const GraphInputs& inputs, SWindow window, co
 
 void SetViewDefaults(diagram::Diagram& d, const SParameterPlot& plot) {
   d.firstIndex = 0;
-  d.xLabelEvery = d.yLabelEvery = kLabelEvery;
+  d.x.labelEvery = d.y.labelEvery = kLabelEvery;
   if (plot.view == SView::Smith) {
     SetRoundRange(d, AxisMode::Smith, kSmithLimit);
   } else if (plot.view == SView::Polar) {

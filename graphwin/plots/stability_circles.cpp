@@ -39,7 +39,7 @@ std::optional<PlanePoint> MatchOf(const numerics::ComplexValue& gamma) {
 }
 
 struct PixelMap {
-  explicit PixelMap(const Diagram& d) : x(diagram::XAxisOf(d)), y(diagram::YAxisOf(d)) {}
+  explicit PixelMap(const Diagram& d) : x(d.x), y(d.y) {}
   QPointF At(PlanePoint p) const { return {diagram::ToPixelExact(x, p.re), diagram::ToPixelExact(y, p.im)}; }
   QRectF Box(PlanePoint centre, double radius) const {
     return QRectF(At({centre.re - radius, centre.im + radius}), At({centre.re + radius, centre.im - radius}));
@@ -94,7 +94,7 @@ void DrawMatchCircles(const Diagram& d, const MatchCircles& circles, Canvas& c) 
   const PixelMap map(d);
   c.SetPenStyle(diagram::PenStyle::Solid);
   c.SetBrushStyle(diagram::BrushStyle::Clear);
-  c.SetClipRect(d.pixLeft, d.pixTop, d.pixRight + 1, d.pixBottom + 1);
+  c.SetClipRect(d.x.pixMin, d.y.pixMax, d.x.pixMax + 1, d.y.pixMin + 1);
   DrawCircle(map, circles.input, kInputCircleColour, c);
   DrawCircle(map, circles.output, kOutputCircleColour, c);
   DrawMatch(map, circles.sourceMatch, "\u0393MS", kInputCircleColour, c);

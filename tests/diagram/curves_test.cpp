@@ -22,7 +22,7 @@ using test::Picture;
 class CurveTest : public testing::Test {
  protected:
   CurveTest() { SetupAxes(d_, 400, 300, 10, 0, 10, 0); }
-  QRect Frame() const { return QRect(QPoint(d_.pixLeft, d_.pixTop), QPoint(d_.pixRight, d_.pixBottom)); }
+  QRect Frame() const { return QRect(QPoint(d_.x.pixMin, d_.y.pixMax), QPoint(d_.x.pixMax, d_.y.pixMin)); }
   Diagram d_;
   Picture picture_{400, 300};
 };
@@ -67,7 +67,7 @@ TEST_F(CurveTest, MarkersGrowWithThePictureAndSkipTheEdge) {
     EXPECT_EQ(ColourAt(image, cx + corner.x(), cy + corner.y()), kBlack);
   }
   EXPECT_EQ(ColourAt(image, cx + 2, cy), kWhite);
-  EXPECT_EQ(CountNotWhite(image, QRect(40, 0, 15, 300)), 0);  // the point on pixLeft has none
+  EXPECT_EQ(CountNotWhite(image, QRect(40, 0, 15, 300)), 0);  // the point on the left end has none
 }
 
 TEST_F(CurveTest, TheSquareMarkerHangsBelowThePoint) {
@@ -137,14 +137,14 @@ TEST(CurrentDiagram, EntryPointsWorkOnTheProgramWideState) {
   EXPECT_EQ(XToPixel(10), 366);
   EXPECT_EQ(YToPixel(5), 27);
   SetAxisCrossing(3, 9);
-  EXPECT_EQ(d.xCross, 3);
-  EXPECT_EQ(d.yCross, -5);
+  EXPECT_EQ(d.x.cross, 3);
+  EXPECT_EQ(d.y.cross, -5);
   const std::vector<double> x = {1, 7.3}, y = {-1.5, 3};
   AutoscaleX(x, 2);
   AutoscaleY(y, 2);
-  EXPECT_EQ(d.xMax, 8);
-  EXPECT_EQ(d.yMin, -2);
-  SetupAxes(p.canvas(), d.xMax, d.xMin, d.yMax, d.yMin);
+  EXPECT_EQ(d.x.max, 8);
+  EXPECT_EQ(d.y.min, -2);
+  SetupAxes(p.canvas(), d.x.max, d.x.min, d.y.max, d.y.min);
   DrawCurve(x, y, 2, p.canvas());
   const QImage& image = p.Finish();
   EXPECT_TRUE(test::HasColourNear(image, XToPixel(4.15), YToPixel(0.75), 1, kBlack));

@@ -59,7 +59,7 @@ TEST(Grid, LinearLinesAreDottedGreyAtEveryNthStepButNotOnTheAxis) {
   Diagram d;
   SetupAxes(d, 400, 300, 10, 0, 10, 0);
   SetAxisCrossing(d, 0, 0);
-  d.xStep = d.yStep = 1;
+  d.x.step = d.y.step = 1;
   Picture p(400, 300);
   SetDrawColour(kGrey, p.canvas());
   DrawGrid(d, 2, 5, p.canvas());
@@ -83,13 +83,13 @@ TEST(AxisLabels, TheVerticalAxisIsLabelledAtTheCrossing) {
   Diagram d;
   SetupAxes(d, 400, 300, 10, 0, 40, -20);
   SetAxisCrossing(d, 0, 0);
-  d.xStep = d.yStep = 10;
-  d.xLabelEvery = d.yLabelEvery = 1;
+  d.x.step = d.y.step = 10;
+  d.x.labelEvery = d.y.labelEvery = 1;
   Picture p(400, 300);
   DrawAxisLabels(d, {}, p.canvas());
   const QImage& image = p.Finish();
   const int row = YToPixel(d, 0);
-  EXPECT_GT(CountNotWhite(image, QRect(d.pixLeft - 20, row - 5, 16, 9)), 5);
+  EXPECT_GT(CountNotWhite(image, QRect(d.x.pixMin - 20, row - 5, 16, 9)), 5);
 }
 
 TEST(Grid, PolarCirclesStayOneStepInsideTheSmallerRange) {
@@ -97,7 +97,7 @@ TEST(Grid, PolarCirclesStayOneStepInsideTheSmallerRange) {
   SetAxisModes(d, AxisMode::Polar, AxisMode::Polar);
   SetupAxes(d, 768, 576, 1, -1, 1, -1);
   SetAxisCrossing(d, 0, 0);
-  d.xStep = d.yStep = 0.05;
+  d.x.step = d.y.step = 0.05;
   Picture p(768, 576);
   SetDrawColour(kGrey, p.canvas());
   DrawGrid(d, 5, 5, p.canvas());

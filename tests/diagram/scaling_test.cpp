@@ -27,11 +27,11 @@ TEST_P(LogRangeTest, MovesBothLimitsUpToADecade) {
   Diagram d;
   SetAxisModes(d, AxisMode::Log, AxisMode::Log);
   SetupAxes(d, 400, 300, c.max, c.min, c.max, c.min);
-  EXPECT_DOUBLE_EQ(d.xMin, c.expectedMin) << c.name;
-  EXPECT_DOUBLE_EQ(d.xMax, c.expectedMax) << c.name;
-  EXPECT_DOUBLE_EQ(d.logXMin, std::log10(c.expectedMin)) << c.name;
-  EXPECT_DOUBLE_EQ(d.logYMax, std::log10(c.expectedMax)) << c.name;
-  EXPECT_DOUBLE_EQ(d.xLimitCopy, c.expectedMax) << c.name;
+  EXPECT_DOUBLE_EQ(d.x.min, c.expectedMin) << c.name;
+  EXPECT_DOUBLE_EQ(d.x.max, c.expectedMax) << c.name;
+  EXPECT_DOUBLE_EQ(d.x.logMin, std::log10(c.expectedMin)) << c.name;
+  EXPECT_DOUBLE_EQ(d.y.logMax, std::log10(c.expectedMax)) << c.name;
+  EXPECT_DOUBLE_EQ(d.x.limitCopy, c.expectedMax) << c.name;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -50,8 +50,8 @@ class ModeCouplingTest : public testing::TestWithParam<CouplingCase> {};
 TEST_P(ModeCouplingTest, PolarWinsThenSmith) {
   Diagram d;
   SetAxisModes(d, GetParam().x, GetParam().y);
-  EXPECT_EQ(d.xMode, GetParam().expected);
-  EXPECT_EQ(d.yMode, GetParam().expected);
+  EXPECT_EQ(d.x.mode, GetParam().expected);
+  EXPECT_EQ(d.y.mode, GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, ModeCouplingTest,
@@ -64,13 +64,13 @@ TEST(AxisCrossing, FollowsTheModeOfEachAxis) {
   SetAxisModes(d, AxisMode::Log, AxisMode::Linear);
   SetupAxes(d, 400, 300, 1e9, 1e6, 5, 1);
   SetAxisCrossing(d, 1e8, 4);
-  EXPECT_EQ(d.xCross, 1e6);
-  EXPECT_EQ(d.yCross, 4);
+  EXPECT_EQ(d.x.cross, 1e6);
+  EXPECT_EQ(d.y.cross, 4);
   SetAxisModes(d, AxisMode::Polar, AxisMode::Polar);
   SetupAxes(d, 400, 300, 1, -1, 1, -1);
   SetAxisCrossing(d, 0.5, 0.5);
-  EXPECT_EQ(d.xCross, 0);
-  EXPECT_EQ(d.yCross, 0);
+  EXPECT_EQ(d.x.cross, 0);
+  EXPECT_EQ(d.y.cross, 0);
 }
 
 TEST(PixelMapping, ClampsToTheFrameAndRoundsInside) {
@@ -118,17 +118,17 @@ TEST_P(RoundChartTest, KeepsTheWholeRangeWithOnePixelScale) {
   Diagram d;
   SetAxisModes(d, c.mode, c.mode);
   SetupAxes(d, c.width, c.height, c.xMax, c.xMin, c.yMax, c.yMin);
-  EXPECT_NEAR(d.xMin, c.fittedXMin, 1e-12);
-  EXPECT_NEAR(d.xMax, c.fittedXMax, 1e-12);
-  EXPECT_NEAR(d.yMin, c.fittedYMin, 1e-12);
-  EXPECT_NEAR(d.yMax, c.fittedYMax, 1e-12);
-  const double across = (d.pixRight - d.pixLeft) / (d.xMax - d.xMin);
-  const double down = (d.pixBottom - d.pixTop) / (d.yMax - d.yMin);
+  EXPECT_NEAR(d.x.min, c.fittedXMin, 1e-12);
+  EXPECT_NEAR(d.x.max, c.fittedXMax, 1e-12);
+  EXPECT_NEAR(d.y.min, c.fittedYMin, 1e-12);
+  EXPECT_NEAR(d.y.max, c.fittedYMax, 1e-12);
+  const double across = (d.x.pixMax - d.x.pixMin) / (d.x.max - d.x.min);
+  const double down = (d.y.pixMin - d.y.pixMax) / (d.y.max - d.y.min);
   EXPECT_NEAR(across, down, 1e-9);
   const Diagram fitted = d;  // fitting a fitted range changes nothing
-  SetupAxes(d, c.width, c.height, d.xMax, d.xMin, d.yMax, d.yMin);
-  EXPECT_NEAR(d.xMax, fitted.xMax, 1e-12);
-  EXPECT_NEAR(d.yMax, fitted.yMax, 1e-12);
+  SetupAxes(d, c.width, c.height, d.x.max, d.x.min, d.y.max, d.y.min);
+  EXPECT_NEAR(d.x.max, fitted.x.max, 1e-12);
+  EXPECT_NEAR(d.y.max, fitted.y.max, 1e-12);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -147,14 +147,14 @@ TEST(RecomputeAxis, AppliesTheRangeRuleInTheLastFrame) {
   Diagram d;
   SetAxisModes(d, AxisMode::Log, AxisMode::Linear);
   SetupAxes(d, 400, 300, 1e10, 1e8, 1, 0);
-  d.xMin = 3e8;  // as typed into the axis dialog
+  d.x.min = 3e8;  // as typed into the axis dialog
   RecomputeXAxis(d);
-  EXPECT_DOUBLE_EQ(d.xMin, 1e9);
-  EXPECT_DOUBLE_EQ(d.logXMin, 9);
+  EXPECT_DOUBLE_EQ(d.x.min, 1e9);
+  EXPECT_DOUBLE_EQ(d.x.logMin, 9);
   EXPECT_EQ(XToPixel(d, 1e9), 48);
-  d.yMax = 7;
+  d.y.max = 7;
   RecomputeYAxis(d);
-  EXPECT_EQ(d.yLimitCopy, 7);
+  EXPECT_EQ(d.y.limitCopy, 7);
   EXPECT_EQ(YToPixel(d, 7), 27);
 }
 
@@ -194,14 +194,14 @@ TEST(Zoom, LogAxisLosesADecadeAtEachEndDownToOneDecadeAndGainsThemBack) {
   const double expected[][2] = {{1e7, 1e9}, {1e8, 1e9}, {1e8, 1e9}};
   for (const auto& range : expected) {
     ZoomIn(d);
-    EXPECT_DOUBLE_EQ(d.xMin, range[0]);
-    EXPECT_DOUBLE_EQ(d.xMax, range[1]);
+    EXPECT_DOUBLE_EQ(d.x.min, range[0]);
+    EXPECT_DOUBLE_EQ(d.x.max, range[1]);
   }
-  EXPECT_DOUBLE_EQ(d.logXMin, 8);
+  EXPECT_DOUBLE_EQ(d.x.logMin, 8);
   ZoomOut(d);  // the origin moves to the new minimum
-  EXPECT_DOUBLE_EQ(d.xMin, 1e7);
-  EXPECT_DOUBLE_EQ(d.xMax, 1e10);
-  EXPECT_DOUBLE_EQ(d.xCross, 1e7);
+  EXPECT_DOUBLE_EQ(d.x.min, 1e7);
+  EXPECT_DOUBLE_EQ(d.x.max, 1e10);
+  EXPECT_DOUBLE_EQ(d.x.cross, 1e7);
 }
 
 TEST(Zoom, LinearAxisScalesItsDistanceFromTheOrigin) {
@@ -209,14 +209,14 @@ TEST(Zoom, LinearAxisScalesItsDistanceFromTheOrigin) {
   SetupAxes(d, 768, 576, 30, 0, 40, -20);
   SetAxisCrossing(d, 0, 10);
   ZoomIn(d);
-  EXPECT_DOUBLE_EQ(d.xMin, 0);
-  EXPECT_DOUBLE_EQ(d.xMax, 20);
-  EXPECT_DOUBLE_EQ(d.yMin, 10 - 30 / 1.5);
-  EXPECT_DOUBLE_EQ(d.yMax, 10 + 30 / 1.5);
-  EXPECT_DOUBLE_EQ(d.yStep, 2);  // NiceStep(40 / 30)
+  EXPECT_DOUBLE_EQ(d.x.min, 0);
+  EXPECT_DOUBLE_EQ(d.x.max, 20);
+  EXPECT_DOUBLE_EQ(d.y.min, 10 - 30 / 1.5);
+  EXPECT_DOUBLE_EQ(d.y.max, 10 + 30 / 1.5);
+  EXPECT_DOUBLE_EQ(d.y.step, 2);  // NiceStep(40 / 30)
   ZoomOut(d);
-  EXPECT_DOUBLE_EQ(d.xMax, 30);
-  EXPECT_DOUBLE_EQ(d.yMin, -20);
+  EXPECT_DOUBLE_EQ(d.x.max, 30);
+  EXPECT_DOUBLE_EQ(d.y.min, -20);
 }
 
 struct AutoscaleCase {
@@ -233,17 +233,17 @@ class AutoscaleTest : public testing::TestWithParam<AutoscaleCase> {};
 TEST_P(AutoscaleTest, RoundsTheDataRange) {
   const AutoscaleCase& c = GetParam();
   Diagram d;
-  d.xMode = d.yMode = c.mode;
+  d.x.mode = d.y.mode = c.mode;
   const int count = static_cast<int>(c.data.size());
   c.yAxis ? AutoscaleY(d, c.data, count) : AutoscaleX(d, c.data, count);
-  EXPECT_DOUBLE_EQ(c.yAxis ? d.yMin : d.xMin, c.min);
-  EXPECT_DOUBLE_EQ(c.yAxis ? d.yMax : d.xMax, c.max);
-  EXPECT_DOUBLE_EQ(c.yAxis ? d.yCross : d.xCross, c.cross);
-  EXPECT_DOUBLE_EQ(c.yAxis ? d.yStep : d.xStep, c.step);
-  EXPECT_EQ(c.yAxis ? d.yLabelEvery : d.xLabelEvery, 5);
+  EXPECT_DOUBLE_EQ(c.yAxis ? d.y.min : d.x.min, c.min);
+  EXPECT_DOUBLE_EQ(c.yAxis ? d.y.max : d.x.max, c.max);
+  EXPECT_DOUBLE_EQ(c.yAxis ? d.y.cross : d.x.cross, c.cross);
+  EXPECT_DOUBLE_EQ(c.yAxis ? d.y.step : d.x.step, c.step);
+  EXPECT_EQ(c.yAxis ? d.y.labelEvery : d.x.labelEvery, 5);
   if (c.mode == AxisMode::Log) {  // log limits carry their logarithms
-    EXPECT_DOUBLE_EQ(c.yAxis ? d.logYMin : d.logXMin, std::log10(c.min));
-    EXPECT_DOUBLE_EQ(c.yAxis ? d.logYMax : d.logXMax, std::log10(c.max));
+    EXPECT_DOUBLE_EQ(c.yAxis ? d.y.logMin : d.x.logMin, std::log10(c.min));
+    EXPECT_DOUBLE_EQ(c.yAxis ? d.y.logMax : d.x.logMax, std::log10(c.max));
   }
 }
 
@@ -272,18 +272,18 @@ TEST(Autoscale, LooksFromFirstIndexUpToCountOnly) {
   d.firstIndex = 1;
   const std::vector<double> values = {1000, 3, 7.3, -500};
   AutoscaleY(d, values, 3);
-  EXPECT_DOUBLE_EQ(d.yMin, 0);
-  EXPECT_DOUBLE_EQ(d.yMax, 8);  // RoundUpOneDigit(7.3073)
+  EXPECT_DOUBLE_EQ(d.y.min, 0);
+  EXPECT_DOUBLE_EQ(d.y.max, 8);  // RoundUpOneDigit(7.3073)
 }
 
 TEST(Autoscale, DataWithoutFiniteValuesChangeNothing) {
   Diagram d;
-  d.yMin = -3;
-  d.yMax = 4;
+  d.y.min = -3;
+  d.y.max = 4;
   const std::vector<double> values = {std::nan(""), std::nan("")};
   AutoscaleY(d, values, 2);
-  EXPECT_EQ(d.yMin, -3);
-  EXPECT_EQ(d.yMax, 4);
+  EXPECT_EQ(d.y.min, -3);
+  EXPECT_EQ(d.y.max, 4);
 }
 
 }  // namespace

@@ -118,7 +118,7 @@ class SmithChartTest : public testing::Test {
   bool Grey(const QImage& image, double re, double im) const {
     return HasColourNear(image, At(re, im).x(), At(re, im).y(), 1, kGrey);
   }
-  QRect Frame() const { return QRect(QPoint(d_.pixLeft, d_.pixTop), QPoint(d_.pixRight, d_.pixBottom)); }
+  QRect Frame() const { return QRect(QPoint(d_.x.pixMin, d_.y.pixMax), QPoint(d_.x.pixMax, d_.y.pixMin)); }
   void DrawGrid(ChartKind kind, bool labels = false) {
     SetDrawColour(kGrey, picture_.canvas());
     DrawSmithGrid(d_, kind, picture_.canvas(), labels, 50);

@@ -72,7 +72,7 @@ TEST_P(AxisLabelTextTest, TakeTheFewestDecimalsThatReadBackExactlyOrDiffer) {
     SetupAxes(d, 768, 576, c.max, c.min, 1, 0);
   }
   SetAxisCrossing(d, 0, 0);
-  (c.yAxis ? d.yStep : d.xStep) = c.step;
+  (c.yAxis ? d.y.step : d.x.step) = c.step;
   std::vector<std::string> texts;
   for (const AxisLabel& l : c.yAxis ? YAxisLabels(d) : XAxisLabels(d)) texts.push_back(l.text);
   EXPECT_EQ(texts, c.expected) << c.name;

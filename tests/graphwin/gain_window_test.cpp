@@ -24,12 +24,12 @@ using graphwin_test::AxisAnswers;
 
 TEST_F(GainWindowTest, OpensAtItsDefaultsAgainAfterAZoom) {
   EXPECT_TRUE(window_->isVisible());
-  EXPECT_EQ(State().xMax, 5e9);  // NiceStep(5 GHz)
-  EXPECT_EQ(State().xMin, 5e7);
+  EXPECT_EQ(State().x.max, 5e9);  // NiceStep(5 GHz)
+  EXPECT_EQ(State().x.min, 5e7);
   Find<QToolButton>("ZoomInButton")->click();
-  EXPECT_DOUBLE_EQ(State().yMax, 40 / 1.5);
+  EXPECT_DOUBLE_EQ(State().y.max, 40 / 1.5);
   window_->ShowFromMain();
-  EXPECT_EQ(State().yMax, 40);
+  EXPECT_EQ(State().y.max, 40);
   EXPECT_EQ(window_->Picture().size(), Image()->size());
 }
 
@@ -42,10 +42,10 @@ TEST_F(GainWindowTest, SwitchingBackFromAnotherWindowActivatesItAgain) {
   QApplication::setActiveWindow(window_.get());
   QApplication::setActiveWindow(&axis_);
   QApplication::setActiveWindow(window_.get());
-  EXPECT_DOUBLE_EQ(State().yMax, 40 / 1.5);
+  EXPECT_DOUBLE_EQ(State().y.max, 40 / 1.5);
   QApplication::setActiveWindow(&other);
   QApplication::setActiveWindow(window_.get());
-  EXPECT_EQ(State().yMax, 40);
+  EXPECT_EQ(State().y.max, 40);
 }
 
 TEST_F(GainWindowTest, CheckBoxesChooseTheCurves) {
@@ -65,21 +65,21 @@ TEST_F(GainWindowTest, AxisEndsAskForTheirLimitWithinTheWindowsBounds) {
     QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e9, 0));
     EXPECT_EQ(answers.labels_, QStringList{"xmax="});
   }
-  EXPECT_EQ(State().xMax, 1e10);
-  EXPECT_EQ(State().xStep, 2e8);  // NiceStep((1E10 - 5E7) / 50)
+  EXPECT_EQ(State().x.max, 1e10);
+  EXPECT_EQ(State().x.step, 2e8);  // NiceStep((1E10 - 5E7) / 50)
   {
     AxisAnswers answers("-500");
     QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e7, -20));
     EXPECT_EQ(answers.labels_, QStringList{"ymin="});
   }
-  EXPECT_EQ(State().yMin, -100);
+  EXPECT_EQ(State().y.min, -100);
   Find<QAction>("xlog1")->trigger();
   {
     AxisAnswers answers("0");  // a logarithmic axis starts at 1 at the lowest
-    QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(State().xMin, 0));
+    QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(State().x.min, 0));
     EXPECT_EQ(answers.labels_, QStringList{"xmin="});
   }
-  EXPECT_EQ(State().xMin, 1);
+  EXPECT_EQ(State().x.min, 1);
   AxisAnswers origin("3G");
   Find<QAction>("Ursprungfestlegen1")->trigger();
   EXPECT_EQ(origin.labels_, (QStringList{"xo=", "yo="}));
@@ -89,28 +89,28 @@ TEST_F(GainWindowTest, RubberBandFromUpperLeftToLowerRightSetsTheScale) {
   const QPoint from = PixelOf(1e9, 30), to = PixelOf(2e9, 10);
   QTest::mousePress(Image(), Qt::RightButton, {}, to);
   QTest::mouseRelease(Image(), Qt::RightButton, {}, from);
-  EXPECT_EQ(State().yMax, 40);  // drawn the wrong way round
+  EXPECT_EQ(State().y.max, 40);  // drawn the wrong way round
   QTest::mouseMove(Image(), from);
   EXPECT_TRUE(Find<QLabel>("CurrentPanel")->text().startsWith("Position : f=1.0"));
   QTest::mousePress(Image(), Qt::RightButton, {}, from);
   QTest::mouseRelease(Image(), Qt::RightButton, {}, to);
-  EXPECT_NEAR(State().xMin, 1e9, 2e7);  // within a pixel
-  EXPECT_NEAR(State().xMax, 2e9, 2e7);
-  EXPECT_NEAR(State().yMin, 10, 0.3);
-  EXPECT_NEAR(State().yMax, 30, 0.3);
+  EXPECT_NEAR(State().x.min, 1e9, 2e7);  // within a pixel
+  EXPECT_NEAR(State().x.max, 2e9, 2e7);
+  EXPECT_NEAR(State().y.min, 10, 0.3);
+  EXPECT_NEAR(State().y.max, 30, 0.3);
 }
 
 TEST_F(GainWindowTest, XLogAndAutoscaleFollowTheData) {
   Find<QToolButton>("xlogButton")->click();
   EXPECT_TRUE(Find<QAction>("xlog1")->isChecked());
-  EXPECT_EQ(State().xMin, 1e9);  // the lowest frequency, a decade already
-  EXPECT_EQ(State().xMax, 1e10);
+  EXPECT_EQ(State().x.min, 1e9);  // the lowest frequency, a decade already
+  EXPECT_EQ(State().x.max, 1e10);
   Find<QAction>("xlog1")->trigger();
-  EXPECT_EQ(State().xMode, diagram::AxisMode::Linear);
-  EXPECT_EQ(State().xMin, 0);
+  EXPECT_EQ(State().x.mode, diagram::AxisMode::Linear);
+  EXPECT_EQ(State().x.min, 0);
   Find<QToolButton>("AutoskButton")->click();
-  EXPECT_EQ(State().xMax, 5e9);
-  EXPECT_EQ(State().yMax, 7);  // RoundUpOneDigit(1.001 * 6.02 dB)
+  EXPECT_EQ(State().x.max, 5e9);
+  EXPECT_EQ(State().y.max, 7);  // RoundUpOneDigit(1.001 * 6.02 dB)
 }
 
 TEST_F(GainWindowTest, SizeCommandsKeepTheLeastSize) {

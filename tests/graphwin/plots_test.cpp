@@ -188,21 +188,21 @@ TEST_F(ImpedancePlotTest, PiAttenuator) {
 TEST(FrequencyDefaults, EachWindowStartsAtItsOwnScale) {
   diagram::Diagram d;
   plots::SetGainDefaults(d, 7.3e9);
-  EXPECT_EQ(d.xMin, 1e8);
-  EXPECT_EQ(d.xStep, 2e8);  // NiceStep(1e10 / 50)
-  EXPECT_EQ(d.yMin, -20);
-  EXPECT_EQ(d.yMax, 40);
+  EXPECT_EQ(d.x.min, 1e8);
+  EXPECT_EQ(d.x.step, 2e8);  // NiceStep(1e10 / 50)
+  EXPECT_EQ(d.y.min, -20);
+  EXPECT_EQ(d.y.max, 40);
   plots::SetImpedanceDefaults(d, 7.3e9);
-  EXPECT_EQ(d.xMax, 1e10);  // NiceStep(7.3e9)
-  EXPECT_EQ(d.xMin, 1e7);
-  EXPECT_EQ(d.xStep, 2e8);  // NiceStep(9.99e9 / 50)
-  EXPECT_EQ(d.yMax, 1000);
-  EXPECT_EQ(d.yStep, 20);
-  EXPECT_EQ(d.xLabelEvery, 5);
+  EXPECT_EQ(d.x.max, 1e10);  // NiceStep(7.3e9)
+  EXPECT_EQ(d.x.min, 1e7);
+  EXPECT_EQ(d.x.step, 2e8);  // NiceStep(9.99e9 / 50)
+  EXPECT_EQ(d.y.max, 1000);
+  EXPECT_EQ(d.y.step, 20);
+  EXPECT_EQ(d.x.labelEvery, 5);
   plots::SetStabilityDefaults(d, 7.3e9);
-  EXPECT_EQ(d.xMin, 1e8);
-  EXPECT_EQ(d.yMax, 2);
-  EXPECT_EQ(d.yStep, 0.05);
+  EXPECT_EQ(d.x.min, 1e8);
+  EXPECT_EQ(d.y.max, 2);
+  EXPECT_EQ(d.y.step, 0.05);
 }
 
 TEST(WindowRules, SizesAndTheDotCycle) {

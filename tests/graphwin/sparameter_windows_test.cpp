@@ -86,17 +86,17 @@ TEST_F(ReflectionWindowTest, OpensAtTheSmithChartOfTheChosenParameter) {
   EXPECT_EQ(window_->windowTitle(), "S-Parameters");
   EXPECT_TRUE(Find<QAction>("SmithDiagramm1")->isChecked());
   EXPECT_EQ(window_->Plot().curves.legendHeading, "S11");
-  EXPECT_EQ(State().xMode, diagram::AxisMode::Smith);
-  EXPECT_EQ(State().xStep, 0.05);  // NiceStep(2 / 50)
+  EXPECT_EQ(State().x.mode, diagram::AxisMode::Smith);
+  EXPECT_EQ(State().x.step, 0.05);  // NiceStep(2 / 50)
   EXPECT_EQ(RefusedLogX(), "log not available for Smith chart!");
   Find<QAction>("Polar1")->trigger();
   EXPECT_FALSE(Find<QAction>("SmithDiagramm1")->isChecked());
   EXPECT_EQ(RefusedLogX(), "log not available for polar diagram!");
   Find<QAction>("Sii11")->trigger();  // |S11| = 0 up to 5 GHz
-  EXPECT_EQ(State().xMax, 5e9);
-  EXPECT_EQ(State().yMax, 1);
+  EXPECT_EQ(State().x.max, 5e9);
+  EXPECT_EQ(State().y.max, 1);
   Find<QAction>("xlog1")->trigger();
-  EXPECT_EQ(State().xMode, diagram::AxisMode::Log);
+  EXPECT_EQ(State().x.mode, diagram::AxisMode::Log);
   window_->ShowFromMain();
   EXPECT_TRUE(Find<QAction>("SmithDiagramm1")->isChecked());
   EXPECT_FALSE(Find<QAction>("xlog1")->isChecked());
@@ -108,9 +108,9 @@ TEST_F(ReflectionWindowTest, ResizingKeepsTheRange) {
   const diagram::Diagram wide = State();
   window_->resize(420, 900);
   window_->resize(900, 420);
-  EXPECT_EQ(State().xMin, wide.xMin);
-  EXPECT_EQ(State().yMax, wide.yMax);
-  EXPECT_EQ(State().yMax, 1);
+  EXPECT_EQ(State().x.min, wide.x.min);
+  EXPECT_EQ(State().y.max, wide.y.max);
+  EXPECT_EQ(State().y.max, 1);
 }
 
 TEST_F(ReflectionWindowTest, QDialogFillsTheTableAndDoubleClickDefinesTheOrigin) {
@@ -144,9 +144,9 @@ TEST_F(ReflectionWindowTest, CirclesFollowTheChosenPoint) {
 }
 
 TEST_F(TransmissionWindowTest, OpensPolarAtTheLargestMagnitudeAndZoomsS12) {
-  EXPECT_EQ(State().xMode, diagram::AxisMode::Polar);
-  EXPECT_EQ(State().yMax, 2);  // RoundUpOneDigit(|S21| = 2)
-  EXPECT_EQ(State().xStep, 0.1);
+  EXPECT_EQ(State().x.mode, diagram::AxisMode::Polar);
+  EXPECT_EQ(State().y.max, 2);  // RoundUpOneDigit(|S21| = 2)
+  EXPECT_EQ(State().x.step, 0.1);
   EXPECT_EQ(window_->Plot().curves.legendHeading, "S21 & S12");
   auto* spin = Find<controls::TSpinButton>("SpinButtonS12Zoom");
   spin->UpButton()->click();

@@ -32,8 +32,8 @@ using ImpedanceWindowTest = graphwin_test::WindowTest<TFormZ>;
 
 // The gain fixture has k = 2.6 and mu = (1 - 0) / (0 + 0.2) = 5 at every point.
 TEST_F(StabilityWindowTest, ChecksKAgainAndPlotsTheFiguresAsTheyAre) {
-  EXPECT_EQ(State().yMin, 0);
-  EXPECT_EQ(State().yMax, 2);
+  EXPECT_EQ(State().y.min, 0);
+  EXPECT_EQ(State().y.max, 2);
   Find<QCheckBox>("CheckBoxk")->click();
   EXPECT_TRUE(Find<QCheckBox>("CheckBoxk")->isChecked());
   Find<QCheckBox>("CheckBoxMu")->click();
@@ -45,7 +45,7 @@ TEST_F(StabilityWindowTest, ChecksKAgainAndPlotsTheFiguresAsTheyAre) {
 }
 
 TEST_F(ImpedanceWindowTest, ModesBoxesAndTheFrequencyLimits) {
-  EXPECT_EQ(State().xMin, 5e6);  // NiceStep(5 GHz) / 1000
+  EXPECT_EQ(State().x.min, 5e6);  // NiceStep(5 GHz) / 1000
   Find<QAction>("RealteilZ1")->trigger();
   EXPECT_FALSE(Find<QAction>("BetragZ1")->isChecked());
   EXPECT_EQ(window_->Plot().title, "Impedance Re(Z(f))");
@@ -58,12 +58,12 @@ TEST_F(ImpedanceWindowTest, ModesBoxesAndTheFrequencyLimits) {
     QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e9, 0));
     EXPECT_EQ(answers.labels_, QStringList{"fmax="});
   }
-  EXPECT_EQ(State().xMax, 1e11);
+  EXPECT_EQ(State().x.max, 1e11);
   AxisAnswers answers("-2M");  // the axes meet in the corner: both minimum ends, each limited
-  QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(State().xMin, 0));
+  QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(State().x.min, 0));
   EXPECT_EQ(answers.labels_, (QStringList{"fmin=", "ymin="}));
-  EXPECT_EQ(State().xMin, 0);
-  EXPECT_EQ(State().yMin, -1e6);
+  EXPECT_EQ(State().x.min, 0);
+  EXPECT_EQ(State().y.min, -1e6);
 }
 
 // The page holds the whole window, tool bar and read-out included, in its proportions.

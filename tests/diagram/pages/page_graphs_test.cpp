@@ -123,23 +123,23 @@ TEST(PageGraphs, TheGainAxisKeepsRoomUpTo15UnlessOnlyKIsShown) {
   for (const auto& [choice, yMax, yStep] : cases) {
     scene.choice = choice;
     Draw(OutputPage::KMag, scene);
-    EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().yMax, yMax);
-    EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().yStep, yStep);
-    EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().yMin, 0);
+    EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().y.max, yMax);
+    EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().y.step, yStep);
+    EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().y.min, 0);
   }
 }
 
 TEST(PageGraphs, AnUnstableSeriesStillGetsAFrame) {
   PageScene scene = TwoFiles();
   const QImage image = Draw(OutputPage::StabilityLimit, scene);
-  EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().yMax, 1);
+  EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().y.max, 1);
   EXPECT_EQ(image.pixel(48, 200), qRgb(0, 0, 0));  // the vertical axis at the crossing 0
   EXPECT_EQ(image.pixel(200, 200), kWhitePixel);
 }
 
 TEST(PageGraphs, AnEmptySeriesDrawsTheBareFrame) {
   const QImage image = Draw(OutputPage::FtFmax, PageScene{});
-  EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().xMax, 1);
+  EXPECT_DOUBLE_EQ(diagram::CurrentDiagram().x.max, 1);
   EXPECT_EQ(image.pixel(200, 263), qRgb(0, 0, 0));  // the horizontal axis at y = 0
 }
 
