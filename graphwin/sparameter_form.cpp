@@ -32,11 +32,6 @@ QAction* TSParameterForm::AddViewItem(const char* name, const QString& caption, 
   return item;
 }
 
-void TSParameterForm::AddPrinterSetupItem(const char* name) {
-  connect(InsertFileItem(name, QStringLiteral("Printer &Setup")), &QAction::triggered, this,
-          &TSParameterForm::PrinterSetupClick);
-}
-
 void TSParameterForm::SetView(plots::SView view) {
   view_ = view;
   CheckViewItem();
@@ -80,12 +75,8 @@ std::string TSParameterForm::ReadOutText(double x, double y) const {
 
 Bounds TSParameterForm::AxisBounds(AxisEnd end) const { return IsXEnd(end) ? kXBounds : kYBounds; }
 
-const plots::FrequencyPlot* TSParameterForm::FrequencyCurves() const {
-  return plots::IsLocus(view_) ? nullptr : &plot_.curves;
-}
-
 std::vector<QPointF> TSParameterForm::CursorPoints(double frequency) const {
-  return plots::IsLocus(view_) ? plots::LocusPointsAt(plot_, frequency) : TGraphForm::CursorPoints(frequency);
+  return plots::IsLocus(view_) ? plots::LocusPointsAt(plot_, frequency) : plots::PointsAt(plot_.curves, frequency);
 }
 
 std::vector<double> TSParameterForm::XValues() const { return plots::XValuesOf(plot_); }
