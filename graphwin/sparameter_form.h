@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -14,6 +15,13 @@ class QActionGroup;
 // chart, and bitmap printing.
 namespace graphwin {
 
+// A display mode's item of "&Scales".
+struct ViewItem {
+  const char* name;
+  const char* caption;
+  plots::SView view;
+};
+
 class TSParameterForm : public TGraphForm {
   Q_OBJECT
 
@@ -25,8 +33,9 @@ class TSParameterForm : public TGraphForm {
   TSParameterForm(const char* name, plots::SWindow window, plots::SView startView, InputsSource inputs,
                   const GraphDialogs& dialogs);
 
-  // A checkable item at the top of "&Scales" that shows the view from its starting ranges.
-  QAction* AddViewItem(const char* name, const QString& caption, plots::SView view);
+  // Checkable items at the top of "&Scales" that show their views from their starting ranges:
+  // the loci, a separator, the views against frequency.
+  void AddViewItems(std::span<const ViewItem> items);
 
   // What the window adds to its loci; the Smith chart labelled at the page's Z0.
   virtual plots::LocusLook Locus() const;
@@ -47,6 +56,7 @@ class TSParameterForm : public TGraphForm {
   bool PrintsBitmap() const override { return true; }
 
  private:
+  void AddViewItem(const ViewItem& item);
   void SetView(plots::SView view);
   void CheckViewItem();
 
