@@ -20,7 +20,7 @@ namespace graphwin {
 namespace {
 
 using GainWindowTest = graphwin_test::WindowTest<TFormG>;
-using graphwin_test::AxisAnswers;
+using graphwin_test::Answers;
 
 TEST_F(GainWindowTest, OpensAtItsDefaultsAgainAfterAZoom) {
   EXPECT_TRUE(window_->isVisible());
@@ -61,28 +61,28 @@ TEST_F(GainWindowTest, CheckBoxesChooseTheCurves) {
 
 TEST_F(GainWindowTest, AxisEndsAskForTheirLimitWithinTheWindowsBounds) {
   {
-    AxisAnswers answers("20G");  // beyond the bound 1E10
+    Answers answers({"20G"});  // beyond the bound 1E10
     QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e9, 0));
-    EXPECT_EQ(answers.labels_, QStringList{"xmax="});
+    EXPECT_EQ(answers.asked_, QStringList{"xmax="});
   }
   EXPECT_EQ(State().x.max, 1e10);
   EXPECT_EQ(State().x.step, 2e8);  // NiceStep((1E10 - 5E7) / 50)
   {
-    AxisAnswers answers("-500");
+    Answers answers({"-500"});
     QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e7, -20));
-    EXPECT_EQ(answers.labels_, QStringList{"ymin="});
+    EXPECT_EQ(answers.asked_, QStringList{"ymin="});
   }
   EXPECT_EQ(State().y.min, -100);
   Find<QAction>("xlog1")->trigger();
   {
-    AxisAnswers answers("0");  // a logarithmic axis starts at 1 at the lowest
+    Answers answers({"0"});  // a logarithmic axis starts at 1 at the lowest
     QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(State().x.min, 0));
-    EXPECT_EQ(answers.labels_, QStringList{"xmin="});
+    EXPECT_EQ(answers.asked_, QStringList{"xmin="});
   }
   EXPECT_EQ(State().x.min, 1);
-  AxisAnswers origin("3G");
+  Answers origin({"3G"});
   Find<QAction>("Ursprungfestlegen1")->trigger();
-  EXPECT_EQ(origin.labels_, (QStringList{"xo=", "yo="}));
+  EXPECT_EQ(origin.asked_, (QStringList{"xo=", "yo="}));
 }
 
 TEST_F(GainWindowTest, RubberBandFromUpperLeftToLowerRightSetsTheScale) {

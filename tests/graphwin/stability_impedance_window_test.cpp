@@ -26,7 +26,7 @@
 namespace graphwin {
 namespace {
 
-using graphwin_test::AxisAnswers;
+using graphwin_test::Answers;
 using StabilityWindowTest = graphwin_test::WindowTest<TFormK>;
 using ImpedanceWindowTest = graphwin_test::WindowTest<TFormZ>;
 
@@ -54,14 +54,14 @@ TEST_F(ImpedanceWindowTest, ModesBoxesAndTheFrequencyLimits) {
   Find<QCheckBox>("CheckBoxZL")->click();
   EXPECT_EQ(window_->Plot().curves.size(), 2u);
   {
-    AxisAnswers answers("200G");
+    Answers answers({"200G"});
     QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e9, 0));
-    EXPECT_EQ(answers.labels_, QStringList{"fmax="});
+    EXPECT_EQ(answers.asked_, QStringList{"fmax="});
   }
   EXPECT_EQ(State().x.max, 1e11);
-  AxisAnswers answers("-2M");  // the axes meet in the corner: both minimum ends, each limited
+  Answers answers({"-2M"});  // the axes meet in the corner: both minimum ends, each limited
   QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(State().x.min, 0));
-  EXPECT_EQ(answers.labels_, (QStringList{"fmin=", "ymin="}));
+  EXPECT_EQ(answers.asked_, (QStringList{"fmin=", "ymin="}));
   EXPECT_EQ(State().x.min, 0);
   EXPECT_EQ(State().y.min, -1e6);
 }
