@@ -2,10 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QDialog>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPrinter>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 #include <stdexcept>
@@ -66,6 +70,18 @@ class WindowTest : public testing::Test {
     return {diagram::XToPixel(d, x), diagram::YToPixel(d, y)};
   }
   const diagram::Diagram& State() { return diagram::CurrentDiagram(); }
+  // Prints through the item into a PDF file and gives the file's first five bytes.
+  QByteArray PrintedStart(const char* item = "Print1") {
+    QTemporaryDir dir;
+    controls::DialogInterception printer(nullptr, [&](controls::PrinterDialog, QPrinter& p) {
+      p.setOutputFormat(QPrinter::PdfFormat);
+      p.setOutputFileName(dir.filePath("page.pdf"));
+      return true;
+    });
+    Find<QAction>(item)->trigger();
+    QFile pdf(dir.filePath("page.pdf"));
+    return pdf.open(QIODevice::ReadOnly) ? pdf.read(5) : QByteArray();
+  }
 
   std::unique_ptr<numerics::TwoPortDataSet> set_ = MakeDataSet(5, 1e9, 1e9);
   graphwin::plots::GraphInputs inputs_;
