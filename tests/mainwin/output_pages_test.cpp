@@ -25,7 +25,6 @@
 
 using diagram::pages::OutputPage;
 
-
 // Pages 3 to 6: the graphs and their titles, the "&Graphic" menu, the table, the export,
 // printing, the picture files and the mouse read-out.
 class OutputPagesTest : public QObject, mainwin_test::WindowSession {
@@ -130,6 +129,7 @@ void OutputPagesTest::TableHeaderAndCommentEdits() {
   const QStringList header = {"File Name", "Ic", "fT", "fmax", "MAG/MSG", "k", "f(k>1)", "j/(mA/µm²)"};
   for (int column = 0; column < 8; ++column) QCOMPARE(grid->Cells(column, 0), header[column]);
   QCOMPARE(grid->item(2, 0)->toolTip(), files[1]);
+  QCOMPARE(grid->Cells(7, 1), QStringLiteral("  0.004"));  // 1000 * 2 mA / 500 square micrometres
   QCOMPARE(Find<QLineEdit>("EditComment3")->text(), QStringLiteral("lot 7 wafer 3"));
   Find<QCheckBox>("CheckBoxComment")->setChecked(false);
   ShowTab(4);

@@ -6,12 +6,12 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRegularExpression>
 #include <QTableWidget>
 #include <QToolButton>
 
 #include "controls/message_box.h"
 #include "fixtures.h"
+#include "series/series_messages.h"
 
 // Page 2: dropping files, the file list and its buttons, reordering, and the messages of the
 // evaluation.
@@ -156,9 +156,7 @@ void SeriesPageTest::SelectingTheOnlyFileShowsItsValues() {
   mainwin_test::MessageLog log;
   mainwin_test::QuestionLog questions(true);
   emit Find<QTableWidget>("StringGridFiles")->cellClicked(1, 0);
-  QCOMPARE(log.Messages().size(), 1);
-  const QRegularExpression text(R"(^fT=\d+\.\dGHz, Gain=\d+\.\d\ddB, k=\d+\.\d\d\d$)");
-  QVERIFY2(text.match(log.Messages().front()).hasMatch(), qPrintable(log.Messages().front()));
+  QCOMPARE(log.Messages(), QStringList({QString::fromStdString(series::FileValuesText(Window().Results().at(0)))}));
   QVERIFY(questions.Questions().isEmpty());
 }
 
@@ -184,8 +182,9 @@ void SeriesPageTest::SelectingAFileOffersToMoveItUp() {
   mainwin_test::QuestionLog questions(answer);
   emit Find<QTableWidget>("StringGridFiles")->cellClicked(row, 0);
   QCOMPARE(questions.Questions().size(), row <= 3 ? 1 : 0);
-  const QRegularExpression question(R"(^fT=\d+\.\dGHz, Gain=\d+\.\d\ddB, k=\d+\.\d\d\d - Move set one position to the top\?$)");
-  for (const QString& asked : questions.Questions()) QVERIFY2(question.match(asked).hasMatch(), qPrintable(asked));
+  for (const QString& asked : questions.Questions()) {
+    QVERIFY2(asked.startsWith("fT=") && asked.endsWith(" - Move set one position to the top?"), qPrintable(asked));
+  }
   for (int i = 0; i < 3; ++i) {
     QCOMPARE(SeriesPaths()[i], files[order[i] - 1]);
     QCOMPARE(Hint(i + 1), files[order[i] - 1]);

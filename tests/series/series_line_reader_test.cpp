@@ -36,6 +36,7 @@ INSTANTIATE_TEST_SUITE_P(
         LineCase{"TwentyBlanks", std::string(20, ' ') + "7 1", SeriesLineKind::NotData, 0, ""},
         LineCase{"ExponentToken", "2.5e3 1", SeriesLineKind::Data, 2500, ""},
         LineCase{"PointFirst", ".5 1", SeriesLineKind::Data, 0.5, ""},
+        LineCase{"SignedToken", "+12 1", SeriesLineKind::Data, 12, ""},
         LineCase{"NoUnitPrefix", "1.5G 1", SeriesLineKind::Data, 1.5, ""},
         LineCase{"TokenAtEndOfLine", "250\n1", SeriesLineKind::Data, 250, ""},
         // The token ends after 199 characters of the line.
