@@ -22,7 +22,6 @@ class ControlsTest : public QObject {
   void GridCellsFollowTheirColumnsAlignment();
   void GridHeaderRowsCannotBeSelected();
   void GridClearRowEmptiesEveryColumn();
-  void GridUsesDefaultSizes();
 };
 
 void ControlsTest::SpinButtonClicksOncePerShortPress_data() {
@@ -115,14 +114,6 @@ void ControlsTest::GridClearRowEmptiesEveryColumn() {
   grid.ClearRow(1);
   for (int column = 0; column < 3; ++column) QCOMPARE(grid.Cells(column, 1), QString());
   QCOMPARE(grid.Cells(0, 0), QStringLiteral("keep"));
-}
-
-void ControlsTest::GridUsesDefaultSizes() {
-  TStringAlignGrid grid(8, 42);
-  grid.SetDefaultColumnWidth(66);
-  grid.SetDefaultRowHeight(18);
-  QCOMPARE(grid.columnWidth(7), 66);
-  QCOMPARE(grid.rowHeight(41), 18);
 }
 
 QTEST_MAIN(ControlsTest)

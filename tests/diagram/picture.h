@@ -55,8 +55,4 @@ inline int CountNotWhite(const QImage& image, const QRect& area) {
   return count;
 }
 
-inline int CountNotWhiteOutside(const QImage& image, const QRect& frame) {
-  return CountNotWhite(image, image.rect()) - CountNotWhite(image, frame & image.rect());
-}
-
 }  // namespace diagram::test

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 #include <cmath>
 #include <complex>
 #include <utility>
@@ -14,9 +12,6 @@
 #include "picture.h"
 
 namespace diagram {
-
-// Found by argument-dependent lookup, so it lives beside GridCircle.
-void PrintTo(const GridCircle& c, std::ostream* os) { *os << c.value << " to " << c.extent; }
 
 namespace {
 
@@ -30,78 +25,52 @@ double DistanceFromCentre(const PlaneArc& arc, PlanePoint p) {
   return std::hypot(p.re - arc.centre.re, p.im - arc.centre.im);
 }
 
-class ResistanceArcTest : public testing::TestWithParam<GridCircle> {};
-
-TEST_P(ResistanceArcTest, IsTheCircleOfItsResistanceUpToItsReactanceExtent) {
-  const GridCircle c = GetParam();
-  const PlaneArc arc = ResistanceArc(c.value, c.extent);
-  EXPECT_NEAR(DistanceFromCentre(arc, {1, 0}), arc.radius, 1e-12);  // every one touches +1
-  EXPECT_NEAR(arc.radius, 1 / (1 + c.value), 1e-12);
-  const std::complex<double> start = ImpedanceOf(PointOnArc(arc, 0));
-  const std::complex<double> end = ImpedanceOf(ArcEnd(arc));
-  EXPECT_NEAR(start.real(), c.value, 1e-9);
-  EXPECT_NEAR(start.imag(), c.extent, 1e-9 * c.extent);
-  EXPECT_NEAR(end.real(), c.value, 1e-9);
-  EXPECT_NEAR(end.imag(), -c.extent, 1e-9 * c.extent);
-}
-
-INSTANTIATE_TEST_SUITE_P(Table, ResistanceArcTest, testing::ValuesIn(kResistanceCircles));
-
-class ReactanceArcTest : public testing::TestWithParam<GridCircle> {};
-
-TEST_P(ReactanceArcTest, RunsFromTheRimToTheResistanceCircleOfItsExtent) {
-  const GridCircle c = GetParam();
-  for (const double x : {c.value, -c.value}) {
-    const PlaneArc arc = ReactanceArc(x, c.extent);
-    EXPECT_GT(arc.spanDegrees, 0);
-    EXPECT_LT(arc.spanDegrees, 180);
-    const std::complex<double> a = ImpedanceOf(PointOnArc(arc, 0));
-    const std::complex<double> b = ImpedanceOf(ArcEnd(arc));
-    EXPECT_NEAR(a.imag(), x, 1e-9 * c.extent);
-    EXPECT_NEAR(b.imag(), x, 1e-9 * c.extent);
-    EXPECT_NEAR(std::min(a.real(), b.real()), 0, 1e-9);  // one end on the rim
-    EXPECT_NEAR(std::max(a.real(), b.real()), c.extent, 1e-9 * c.extent);
-    EXPECT_EQ(PointOnArc(arc, arc.spanDegrees / 2).im > 0, x > 0);
+TEST(SmithGeometry, ResistanceArcsAreTheirCirclesUpToTheirReactanceExtent) {
+  for (const GridCircle c : kResistanceCircles) {
+    const PlaneArc arc = ResistanceArc(c.value, c.extent);
+    EXPECT_NEAR(DistanceFromCentre(arc, {1, 0}), arc.radius, 1e-12);  // every one touches +1
+    EXPECT_NEAR(arc.radius, 1 / (1 + c.value), 1e-12) << c.value;
+    const std::complex<double> start = ImpedanceOf(PointOnArc(arc, 0)), end = ImpedanceOf(ArcEnd(arc));
+    EXPECT_NEAR(std::abs(start - std::complex<double>(c.value, c.extent)), 0, 1e-9 * c.extent) << c.value;
+    EXPECT_NEAR(std::abs(end - std::complex<double>(c.value, -c.extent)), 0, 1e-9 * c.extent) << c.value;
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, ReactanceArcTest, testing::ValuesIn(kReactanceCircles));
-
-TEST(SmithGeometry, TheAdmittanceChartIsMirrored) {
-  const PlaneArc z = ResistanceArc(2, 30);
-  const PlaneArc y = MirrorLeftRight(z);
-  EXPECT_NEAR(DistanceFromCentre(y, {-1, 0}), y.radius, 1e-12);
-  for (const double t : {0.0, 0.3, 0.7, 1.0}) {
-    const PlanePoint p = PointOnArc(z, t * z.spanDegrees);
-    const PlanePoint q = PointOnArc(y, (1 - t) * y.spanDegrees);
-    EXPECT_NEAR(q.re, -p.re, 1e-12);
-    EXPECT_NEAR(q.im, p.im, 1e-12);
-  }
-}
-
-class ConstantQTest : public testing::TestWithParam<double> {};
-
-TEST_P(ConstantQTest, EveryPointOfBothArcsHasThatQ) {
-  const double q = GetParam();
-  const QArcs arcs = ConstantQArcs(q);
-  for (const PlaneArc* arc : {&arcs.upper, &arcs.lower}) {
-    for (const double t : {0.05, 0.25, 0.5, 0.75, 0.95}) {
-      const std::complex<double> z = ImpedanceOf(PointOnArc(*arc, t * arc->spanDegrees));
-      EXPECT_NEAR(std::fabs(z.imag() / z.real()), q, 1e-7 * q) << t;
-      EXPECT_EQ(z.imag() > 0, arc == &arcs.upper);
+TEST(SmithGeometry, ReactanceArcsRunFromTheRimToTheResistanceCircleOfTheirExtent) {
+  for (const GridCircle c : kReactanceCircles) {
+    for (const double x : {c.value, -c.value}) {
+      const PlaneArc arc = ReactanceArc(x, c.extent);
+      EXPECT_TRUE(arc.spanDegrees > 0 && arc.spanDegrees < 180) << x;
+      const std::complex<double> a = ImpedanceOf(PointOnArc(arc, 0)), b = ImpedanceOf(ArcEnd(arc));
+      EXPECT_NEAR(a.imag(), x, 1e-9 * c.extent);
+      EXPECT_NEAR(b.imag(), x, 1e-9 * c.extent);
+      EXPECT_NEAR(std::min(a.real(), b.real()), 0, 1e-9);  // one end on the rim
+      EXPECT_NEAR(std::max(a.real(), b.real()), c.extent, 1e-9 * c.extent);
+      EXPECT_EQ(PointOnArc(arc, arc.spanDegrees / 2).im > 0, x > 0);
     }
-    const PlanePoint a = PointOnArc(*arc, 0), b = ArcEnd(*arc);
-    EXPECT_NEAR(std::fabs(a.re), 1, 1e-12);
-    EXPECT_NEAR(a.re, -b.re, 1e-12);
   }
-  const PlanePoint top = PointOnArc(arcs.upper, arcs.upper.spanDegrees / 2);
-  EXPECT_NEAR(top.re, 0, 1e-12);
-  EXPECT_NEAR(top.im, arcs.s, 1e-12);
 }
 
-INSTANTIATE_TEST_SUITE_P(Values, ConstantQTest, testing::Values(0.01, 1.0, 10000.0));
+TEST(SmithGeometry, EveryPointOfBothQArcsHasThatQ) {
+  for (const double q : {0.01, 1.0, 10000.0}) {
+    const QArcs arcs = ConstantQArcs(q);
+    for (const PlaneArc* arc : {&arcs.upper, &arcs.lower}) {
+      for (const double t : {0.05, 0.5, 0.95}) {
+        const std::complex<double> z = ImpedanceOf(PointOnArc(*arc, t * arc->spanDegrees));
+        EXPECT_NEAR(std::fabs(z.imag() / z.real()), q, 1e-7 * q) << t;
+        EXPECT_EQ(z.imag() > 0, arc == &arcs.upper);
+      }
+      const PlanePoint a = PointOnArc(*arc, 0), b = ArcEnd(*arc);
+      EXPECT_NEAR(std::fabs(a.re), 1, 1e-12);
+      EXPECT_NEAR(a.re, -b.re, 1e-12);
+    }
+    const PlanePoint top = PointOnArc(arcs.upper, arcs.upper.spanDegrees / 2);
+    EXPECT_NEAR(top.re, 0, 1e-12);
+    EXPECT_NEAR(top.im, arcs.s, 1e-12);
+  }
+}
 
-using test::CountNotWhiteOutside;
+using test::CountNotWhite;
 using test::HasColourNear;
 using test::Picture;
 
@@ -113,12 +82,10 @@ class SmithChartTest : public testing::Test {
     SetupAxes(d_, 768, 576, limit, -limit, limit, -limit);
     SetAxisCrossing(d_, 0, 0);
   }
-  // Pixel of a reflection coefficient, on the one scale of both axes.
-  QPoint At(double re, double im) const { return {XToPixel(d_, re), YToPixel(d_, im)}; }
-  bool Grey(const QImage& image, double re, double im) const {
-    return HasColourNear(image, At(re, im).x(), At(re, im).y(), 1, kGrey);
+  // Whether the colour is near the pixel of a reflection coefficient.
+  bool Has(const QImage& image, double re, double im, Colour colour = kGrey, int radius = 1) const {
+    return HasColourNear(image, XToPixel(d_, re), YToPixel(d_, im), radius, colour);
   }
-  QRect Frame() const { return QRect(QPoint(d_.x.pixMin, d_.y.pixMax), QPoint(d_.x.pixMax, d_.y.pixMin)); }
   void DrawGrid(ChartKind kind, bool labels = false) {
     SetDrawColour(kGrey, picture_.canvas());
     DrawSmithGrid(d_, kind, picture_.canvas(), labels, 50);
@@ -135,13 +102,10 @@ TEST_P(SmithGridKindTest, RimAndUnitCircleOnTheSideOfTheKind) {
   DrawGrid(GetParam().first);
   const QImage& image = picture_.Finish();
   const double h = std::sqrt(0.5), side = GetParam().second;
-  for (const auto& [re, im] :
-       {std::pair{0.0, 1.0}, {0.0, -1.0}, {-1.0, 0.0}, {h, h}, {-h, -h}, {side, 0.5}, {side, -0.5}}) {
-    EXPECT_TRUE(Grey(image, re, im)) << re << " " << im;
-  }
-  EXPECT_FALSE(Grey(image, -1.1, 0.3));  // outside the rim
-  EXPECT_FALSE(Grey(image, 1.1, -0.3));
-  EXPECT_FALSE(Grey(image, -side, 0.5));  // the other kind's circle
+  EXPECT_TRUE(Has(image, -h, -h));  // the rim
+  EXPECT_TRUE(Has(image, side, -0.5));
+  EXPECT_FALSE(Has(image, -1.1, 0.3));   // outside the rim
+  EXPECT_FALSE(Has(image, -side, 0.5));  // the other kind's circle
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, SmithGridKindTest,
@@ -151,8 +115,8 @@ TEST_F(SmithChartTest, TheCombinedChartDrawsTheAdmittanceGridInItsOwnColour) {
   DrawGrid(ChartKind::Combined, true);
   EXPECT_EQ(picture_.canvas().PenColour(), kGrey);
   const QImage& image = picture_.Finish();
-  EXPECT_TRUE(Grey(image, 0.5, 0.5));
-  EXPECT_TRUE(HasColourNear(image, At(-0.5, 0.5).x(), At(-0.5, 0.5).y(), 1, kAdmittanceGridColour));
+  EXPECT_TRUE(Has(image, 0.5, 0.5));
+  EXPECT_TRUE(Has(image, -0.5, 0.5, kAdmittanceGridColour));
 }
 
 TEST_F(SmithChartTest, AZoomedChartStaysInsideTheFrame) {
@@ -160,8 +124,9 @@ TEST_F(SmithChartTest, AZoomedChartStaysInsideTheFrame) {
   DrawGrid(ChartKind::Combined);
   DrawQArcs(d_, picture_.canvas(), 1);
   const QImage& image = picture_.Finish();
-  EXPECT_EQ(CountNotWhiteOutside(image, Frame()), 0);
-  EXPECT_TRUE(Grey(image, 0, 0));
+  const QRect frame(QPoint(d_.x.pixMin, d_.y.pixMax), QPoint(d_.x.pixMax, d_.y.pixMin));
+  EXPECT_EQ(CountNotWhite(image, image.rect()), CountNotWhite(image, frame));
+  EXPECT_TRUE(Has(image, 0, 0));
 }
 
 TEST_F(SmithChartTest, QArcsCrossTheImaginaryAxisAtS) {
@@ -169,26 +134,15 @@ TEST_F(SmithChartTest, QArcsCrossTheImaginaryAxisAtS) {
   DrawQArcs(d_, picture_.canvas(), 1);
   EXPECT_EQ(picture_.canvas().PenColour(), kGrey);
   const QImage& image = picture_.Finish();
-  const double s = std::sqrt(2.0) - 1;
-  for (const double im : {s, -s}) {
-    EXPECT_TRUE(HasColourNear(image, At(0, im).x(), At(0, im).y(), 1, kBlack)) << im;
-  }
-  EXPECT_FALSE(HasColourNear(image, At(0, 0.5).x(), At(0, 0.5).y(), 2, kBlack));
+  EXPECT_TRUE(Has(image, 0, std::sqrt(2.0) - 1, kBlack));
+  EXPECT_FALSE(Has(image, 0, 0.5, kBlack, 2));
 }
 
-struct SizeCase {
-  int width, height, points;
-};
-void PrintTo(const SizeCase& c, std::ostream* os) { *os << c.width << "x" << c.height; }
-
-class LabelSizeTest : public testing::TestWithParam<SizeCase> {};
-
-TEST_P(LabelSizeTest, EightPointsOnlyForLargePictures) {
-  EXPECT_EQ(SmithLabelPointSize(GetParam().width, GetParam().height), GetParam().points);
+TEST(SmithChart, EightPointLabelsOnlyForLargePictures) {
+  EXPECT_EQ(SmithLabelPointSize(501, 401), 8);
+  EXPECT_EQ(SmithLabelPointSize(500, 450), 6);
+  EXPECT_EQ(SmithLabelPointSize(501, 400), 6);
 }
-
-INSTANTIATE_TEST_SUITE_P(Sizes, LabelSizeTest,
-                         testing::Values(SizeCase{500, 450, 6}, SizeCase{501, 401, 8}, SizeCase{501, 400, 6}));
 
 }  // namespace
 }  // namespace diagram

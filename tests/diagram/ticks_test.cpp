@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -51,45 +50,34 @@ TEST(GridLines, LogAxisHasTwoToNineTimesEachDecade) {
                {2e7, 3e7, 4e7, 5e7, 6e7, 7e7, 8e7, 9e7, 1e8, 2e8, 3e8, 4e8, 5e8, 6e8, 7e8, 8e8, 9e8, 1e9});
 }
 
-struct LabelCase {
-  const char* name;
-  AxisMode mode;
-  bool yAxis;
-  double min, max, step;
-  std::vector<std::string> expected;
-};
-void PrintTo(const LabelCase& c, std::ostream* os) { *os << c.name; }
-
-class AxisLabelTextTest : public testing::TestWithParam<LabelCase> {};
-
-TEST_P(AxisLabelTextTest, TakeTheFewestDecimalsThatReadBackExactlyOrDiffer) {
-  const LabelCase& c = GetParam();
-  Diagram d;
-  SetAxisModes(d, c.mode, AxisMode::Linear);
-  if (c.yAxis) {
-    SetupAxes(d, 768, 576, 1, 0, c.max, c.min);
-  } else {
-    SetupAxes(d, 768, 576, c.max, c.min, 1, 0);
+TEST(AxisLabelTexts, TakeTheFewestDecimalsThatReadBackExactlyOrDiffer) {
+  const struct {
+    const char* name;
+    AxisMode mode;
+    bool yAxis;
+    double min, max, step;
+    std::vector<std::string> expected;
+  } cases[] = {
+      {"frequency, a half step needs one decimal", AxisMode::Linear, false, 0, 10e9, 5e8,
+       {"0.0", "2.5G", "5.0G", "7.5G", "10.0G"}},
+      {"decades need none", AxisMode::Log, false, 1e7, 1e10, 1, {"10M", "100M", "1G"}},
+      {"quarter steps of a reflection coefficient", AxisMode::Linear, true, -1, 1, 0.05,
+       {"0.0", "0.25", "0.50", "0.75", "1.00", "-0.25", "-0.50", "-0.75", "-1.00"}},
+      // Regression: three decimals read "1.000G" twice on a 2 MHz wide axis.
+      {"narrow span far from zero", AxisMode::Linear, false, 1e9, 1.002e9, 1e5,
+       {"1.0000G", "1.0005G", "1.0010G", "1.0015G", "1.0020G"}},
+      {"equal linear limits get none", AxisMode::Linear, false, 3, 3, 1, {}}};
+  for (const auto& c : cases) {
+    Diagram d;
+    SetAxisModes(d, c.mode, AxisMode::Linear);
+    SetupAxes(d, 768, 576, c.yAxis ? 1 : c.max, c.yAxis ? 0 : c.min, c.yAxis ? c.max : 1, c.yAxis ? c.min : 0);
+    SetAxisCrossing(d, 0, 0);
+    (c.yAxis ? d.y.step : d.x.step) = c.step;
+    std::vector<std::string> texts;
+    for (const AxisLabel& l : c.yAxis ? YAxisLabels(d) : XAxisLabels(d)) texts.push_back(l.text);
+    EXPECT_EQ(texts, c.expected) << c.name;
   }
-  SetAxisCrossing(d, 0, 0);
-  (c.yAxis ? d.y.step : d.x.step) = c.step;
-  std::vector<std::string> texts;
-  for (const AxisLabel& l : c.yAxis ? YAxisLabels(d) : XAxisLabels(d)) texts.push_back(l.text);
-  EXPECT_EQ(texts, c.expected) << c.name;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, AxisLabelTextTest,
-    testing::Values(
-        LabelCase{"frequency, a half step needs one decimal", AxisMode::Linear, false, 0, 10e9, 5e8,
-                  {"0.0", "2.5G", "5.0G", "7.5G", "10.0G"}},
-        LabelCase{"decades need none", AxisMode::Log, false, 1e7, 1e10, 1, {"10M", "100M", "1G"}},
-        LabelCase{"quarter steps of a reflection coefficient", AxisMode::Linear, true, -1, 1, 0.05,
-                  {"0.0", "0.25", "0.50", "0.75", "1.00", "-0.25", "-0.50", "-0.75", "-1.00"}},
-        // Regression: three decimals read "1.000G" twice on a 2 MHz wide axis.
-        LabelCase{"narrow span far from zero", AxisMode::Linear, false, 1e9, 1.002e9, 1e5,
-                  {"1.0000G", "1.0005G", "1.0010G", "1.0015G", "1.0020G"}},
-        LabelCase{"equal linear limits get none", AxisMode::Linear, false, 3, 3, 1, {}}));
 
 }  // namespace
 }  // namespace diagram

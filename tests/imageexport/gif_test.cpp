@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 #include <QByteArray>
 #include <cstdint>
 #include <span>
@@ -36,30 +34,14 @@ QImage Decode(const std::vector<std::uint8_t>& bytes) {
       .convertToFormat(QImage::Format_RGB32);
 }
 
-struct GifCase {
-  const char* name;
-  QImage (*make)();
-};
-void PrintTo(const GifCase& c, std::ostream* os) { *os << c.name; }
-
-class GifRoundTripTest : public testing::TestWithParam<GifCase> {};
-
-TEST_P(GifRoundTripTest, QtReadsBackEveryPixel) {
-  const QImage source = GetParam().make().convertToFormat(QImage::Format_RGB32);
-  EXPECT_EQ(Decode(Encode(source)), source);
+// One pixel; all 256 colours at random, with clear codes; 17 colours, so codes start at 5 bits.
+TEST(Gif, QtReadsBackEveryPixel) {
+  QImage onePixel(1, 1, QImage::Format_RGB32);
+  onePixel.fill(QColor(0x12, 0x34, 0x56));
+  for (const QImage& source : {onePixel, test::Noise(300, 200, 256, 2), test::Noise(257, 3, 17, 3)}) {
+    EXPECT_EQ(Decode(Encode(source)), source) << source.width();
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Pictures, GifRoundTripTest,
-                         testing::Values(GifCase{"one_pixel",
-                                                 [] {
-                                                   QImage i(1, 1, QImage::Format_RGB32);
-                                                   i.fill(QColor(0x12, 0x34, 0x56));
-                                                   return i;
-                                                 }},
-                                         GifCase{"all_256__with_clear_codes",
-                                                 [] { return test::Noise(300, 200, 256, 2); }},
-                                         GifCase{"17_colours__code_size_5", [] { return test::Noise(257, 3, 17, 3); }}),
-                         [](const testing::TestParamInfo<GifCase>& info) { return std::string(info.param.name); });
 
 TEST(Gif, FileLayoutIsGif89aWithTheSizeLittleEndian) {
   const std::vector<std::uint8_t> bytes = Encode(test::DiagramLike(300, 258));

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QFont>
 #include <QImage>
 #include <QPainter>
-#include <cstdint>
+#include <algorithm>
 #include <random>
 
 // Pictures to export: a small diagram and pictures that stress the colour table.

@@ -21,21 +21,20 @@ QString WriteFixture(const QString& path, const QString& text) {
 
 }  // namespace
 
-QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points) {
-  QString text = "Test device " + name + "\r\n";
-  for (int i = 1; i <= points; ++i) text += QString::number(i * 100) + "M 0.5 -30 4.0 150 0.05 60 0.4 -20\r\n";
+QString WriteTextFile(const QTemporaryDir& dir, const QString& name, const QString& text) {
   return WriteFixture(dir.filePath(name), text);
 }
 
-QString WriteBrokenFile(const QTemporaryDir& dir, const QString& name) {
-  return WriteFixture(dir.filePath(name),
-                      "Broken\n100M 0.5 -30 4 150 0.05 60 0.4 -20\n200M 0.5 x -30 4 150 0.05 60 0.4 -20\n");
+QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points) {
+  QString text = "Test device " + name + "\r\n";
+  for (int i = 1; i <= points; ++i) text += QString::number(i * 100) + "M 0.5 -30 4.0 150 0.05 60 0.4 -20\r\n";
+  return WriteTextFile(dir, name, text);
 }
 
 QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment) {
   QString text = "! Bias point " + name + "\n" + comment + "\n# MHz S MA R 50\n";
   for (int f = 500; f <= 4000; f += 500) text += QString::number(f) + " 0.3 -30 2 150 0.01 60 0.3 -20\n";
-  return WriteFixture(dir.filePath(name), text);
+  return WriteTextFile(dir, name, text);
 }
 
 void WriteSettingsFile(const QString& text) { WriteFixture(mainwin::SettingsFilePath(), text); }

@@ -42,8 +42,7 @@ class WindowSession {
 
 // Writes a two-port file with the given number of points (100 MHz apart, from 100 MHz).
 QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points);
-// A file whose second data line holds a letter where a number must be.
-QString WriteBrokenFile(const QTemporaryDir& dir, const QString& name);
+QString WriteTextFile(const QTemporaryDir& dir, const QString& name, const QString& text);
 // A bias-series file: a comment line such as "! Ic=2m" (empty for none), "# MHz S MA R 50" and
 // points from 500 MHz to 4 GHz of a device with k far above 1 at every point (its limit is 500 MHz).
 QString WriteSeriesFile(const QTemporaryDir& dir, const QString& name, const QString& comment);

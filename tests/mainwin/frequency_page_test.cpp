@@ -8,9 +8,10 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSettings>
-#include <QStatusBar>
 #include <QTimer>
 #include <QToolButton>
+#include <tuple>
+#include <utility>
 
 #include "controls/spin_button.h"
 #include "graphwin/gwin.h"
@@ -20,8 +21,6 @@
 #include "mainwin/history_list.h"
 #include "numerics/data_set.h"
 #include "numerics/two_port_state.h"
-
-Q_DECLARE_METATYPE(graphwin::DisplayMode)
 
 namespace {
 
@@ -44,18 +43,13 @@ class FrequencyPageTest : public QObject, mainwin_test::WindowSession {
   void init() { Reset(); }
   void EveryLoadPathRefusesAFifthFileUntilOneIsRemoved();
   void LoadCommandReadsTheChosenFile();
-  void UnreadableFileChangesNothing();
   void LoadedFileJoinsSeriesAndRecentFiles();
-  void FirstLoadEnablesTheDiagramButtons();
   void OneOrMoreActiveFilesRule();
-  void DisplayCountWraps_data();
   void DisplayCountWraps();
   void RemovingFilesFreesTheirSetsUntilNoneIsLeft();
   void DropOnFirstPageTakesTheFirstFile();
-  void Z0IsLimited_data();
   void Z0IsLimited();
-  void DiagramButtonSetsDisplayMode_data();
-  void DiagramButtonSetsDisplayMode();
+  void DiagramButtonsSetTheDisplayMode();
   void GainWindowTakesThePageAsItIs();
 
  private:
@@ -106,36 +100,26 @@ void FrequencyPageTest::LoadCommandReadsTheChosenFile() {
   QCOMPARE(QSettings().value("Dialogs/LoadDirectory").toString(), dir_.path());
 }
 
-void FrequencyPageTest::UnreadableFileChangesNothing() {
-  Start({File(1)});
-  mainwin_test::MessageLog log;
-  const QString broken = mainwin_test::WriteBrokenFile(dir_, "broken.s2p");
-  Window().LoadFrequencyFile(broken);
-  QCOMPARE(log.Messages().size(), 1);
-  QVERIFY2(log.Messages()[0].contains(broken), qPrintable(log.Messages()[0]));
-  QCOMPARE(ListCount(), 1);
-  QCOMPARE(numerics::DataSets().openCount, 1);
-  QCOMPARE(Window().Series().SeriesCount(), std::size_t{1});
-  QCOMPARE(Window().HistoryList().Items(), QStringList({File(1)}));
-  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), QStringLiteral("  5"));
-}
-
+// A file that cannot be read changes nothing.
 void FrequencyPageTest::LoadedFileJoinsSeriesAndRecentFiles() {
-  Start();
-  Window().LoadFrequencyFile(File(1));
-  Window().LoadFrequencyFile(File(2));
-  Window().LoadFrequencyFile(File(1));
-  QCOMPARE(Window().Series().SeriesCount(), std::size_t{3});
-  QCOMPARE(QString::fromStdString(Window().Series().Path(2)), File(1));
-  QCOMPARE(Window().HistoryList().Items(), QStringList({File(1), File(2)}));
-  QCOMPARE(ListCount(), 3);
-}
-
-void FrequencyPageTest::FirstLoadEnablesTheDiagramButtons() {
   Start();
   for (const char* name : kDiagramButtons) QVERIFY2(!Find<QPushButton>(name)->isEnabled(), name);
   Window().LoadFrequencyFile(File(1));
   for (const char* name : kDiagramButtons) QVERIFY2(Find<QPushButton>(name)->isEnabled(), name);
+  Window().LoadFrequencyFile(File(2, 3));
+  Window().LoadFrequencyFile(File(1));
+  mainwin_test::MessageLog log;
+  const QString shownCount = Find<QLineEdit>("fnEingabe")->text();
+  const QString broken = mainwin_test::WriteTextFile(dir_, "broken.s2p", "Broken\n100M 0.5 x -30 4 150 0.05 60 0.4 -20\n");
+  Window().LoadFrequencyFile(broken);
+  QCOMPARE(log.Messages().size(), 1);
+  QVERIFY2(log.Messages()[0].contains(broken), qPrintable(log.Messages()[0]));
+  QCOMPARE(Window().Series().SeriesCount(), std::size_t{3});
+  QCOMPARE(QString::fromStdString(Window().Series().Path(2)), File(1));
+  QCOMPARE(Window().HistoryList().Items(), QStringList({File(1), File(2, 3)}));
+  QCOMPARE(ListCount(), 3);
+  QCOMPARE(numerics::DataSets().openCount, 3);
+  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), shownCount);
 }
 
 // Regression: a second load once enabled the combined buttons again after the rule had run.
@@ -158,21 +142,14 @@ void FrequencyPageTest::OneOrMoreActiveFilesRule() {
   QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), QStringLiteral("  9"));
 }
 
-void FrequencyPageTest::DisplayCountWraps_data() {
-  QTest::addColumn<QString>("clicks");
-  QTest::addColumn<QString>("shown");
-  QTest::newRow("up from N wraps to 1") << "u" << "  1";
-  QTest::newRow("down from N") << "d" << "  4";
-  QTest::newRow("up then down wraps to N") << "ud" << "  5";
-}
-
+// Up from the last point wraps to 1, down from 1 to the last.
 void FrequencyPageTest::DisplayCountWraps() {
-  QFETCH(QString, clicks);
-  QFETCH(QString, shown);
   Start({File(1, 5)});
   auto* spin = Find<controls::TSpinButton>("fAnzahlSpinButton");
-  for (QChar c : clicks) QTest::mouseClick(c == 'u' ? spin->UpButton() : spin->DownButton(), Qt::LeftButton);
-  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), shown);
+  QTest::mouseClick(spin->UpButton(), Qt::LeftButton);
+  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), QStringLiteral("  1"));
+  QTest::mouseClick(spin->DownButton(), Qt::LeftButton);
+  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), QStringLiteral("  5"));
 }
 
 void FrequencyPageTest::RemovingFilesFreesTheirSetsUntilNoneIsLeft() {
@@ -208,58 +185,41 @@ void FrequencyPageTest::DropOnFirstPageTakesTheFirstFile() {
   QCOMPARE(Find<QListWidget>("CheckListBox1")->item(0)->text(), File(1));
 }
 
-void FrequencyPageTest::Z0IsLimited_data() {
-  QTest::addColumn<QString>("typed");
-  QTest::addColumn<double>("z0");
-  QTest::newRow("prefix k") << "1.5k" << 1500.0;
-  QTest::newRow("below the limit") << "1u" << 0.001;
-  QTest::newRow("above the limit") << "2M" << 1e6;
-  QTest::newRow("no digits") << "x" << 0.001;
-}
-
 void FrequencyPageTest::Z0IsLimited() {
-  QFETCH(QString, typed);
-  QFETCH(double, z0);
   Start();
   auto* edit = Find<QLineEdit>("ZLEingabe");
-  edit->selectAll();
-  QTest::keyClicks(edit, typed);
-  QCOMPARE(numerics::WorkingState().z0, z0);
+  for (const auto& [typed, z0] : {std::pair{"1.5k", 1500.0}, std::pair{"2M", 1e6}, std::pair{"x", 0.001}}) {
+    edit->selectAll();
+    QTest::keyClicks(edit, typed);
+    QCOMPARE(numerics::WorkingState().z0, z0);
+  }
 }
 
-void FrequencyPageTest::DiagramButtonSetsDisplayMode_data() {
+// Each button passes the "connect" choice as it stands, which alternates here; the legend is
+// that of the reflection or transmission window the button opens.
+void FrequencyPageTest::DiagramButtonsSetTheDisplayMode() {
   using M = graphwin::DisplayMode;
-  QTest::addColumn<QString>("button");
-  QTest::addColumn<M>("mode");
-  QTest::addColumn<bool>("connect");
-  QTest::addColumn<QString>("legend");  // of the reflection or transmission window it opens
-  QTest::newRow("S11") << "SpeedButton1" << M::InputReflection << true << "S11";
-  QTest::newRow("S22") << "SpeedButton2" << M::OutputReflection << false << "S22";
-  QTest::newRow("S11 - S22") << "SpeedButton6" << M::BothReflections << true << "S11 & S22";
-  QTest::newRow("S21") << "SpeedButton3" << M::ForwardTransmission << false << "S21";
-  QTest::newRow("S12") << "SpeedButton4" << M::ReverseTransmission << true << "S12";
-  QTest::newRow("S21 - S12") << "SpeedButton5" << M::BothTransmissions << false << "S21 & S12";
-  QTest::newRow("gain") << "SpeedButtonGain" << M::Gain << true << "";
-  QTest::newRow("stability") << "SpeedButtonk" << M::Stability << false << "";
-  QTest::newRow("impedance") << "SpeedButtonZ" << M::Impedance << true << "";
-}
-
-void FrequencyPageTest::DiagramButtonSetsDisplayMode() {
-  QFETCH(QString, button);
-  QFETCH(graphwin::DisplayMode, mode);
-  QFETCH(bool, connect);
+  const std::tuple<const char*, M, const char*> buttons[] = {
+      {"SpeedButton1", M::InputReflection, "S11"},       {"SpeedButton2", M::OutputReflection, "S22"},
+      {"SpeedButton6", M::BothReflections, "S11 & S22"}, {"SpeedButton3", M::ForwardTransmission, "S21"},
+      {"SpeedButton4", M::ReverseTransmission, "S12"},   {"SpeedButton5", M::BothTransmissions, "S21 & S12"},
+      {"SpeedButtonGain", M::Gain, ""},                  {"SpeedButtonk", M::Stability, ""},
+      {"SpeedButtonZ", M::Impedance, ""}};
   Start({File(1)});
-  Find<QCheckBox>("VerbindenCheckBox")->setChecked(connect);
-  QTest::mouseClick(Find<QPushButton>(qPrintable(button)), Qt::LeftButton);
-  QCOMPARE(Window().CurrentDisplayMode(), mode);
-  QCOMPARE(Window().ConnectForWindows(), connect);
-  QFETCH(QString, legend);
-  if (legend.isEmpty()) return;
-  const bool reflection = mode <= graphwin::DisplayMode::BothReflections;
-  const graphwin::TSParameterForm* shown = reflection ? static_cast<graphwin::TSParameterForm*>(forms_->FormPhi())
-                                                      : forms_->FormVu();
-  QVERIFY(shown->isVisible());
-  QCOMPARE(QString::fromStdString(shown->Plot().curves.legendHeading), legend);
+  bool connect = false;
+  for (const auto& [button, mode, legend] : buttons) {
+    connect = !connect;
+    Find<QCheckBox>("VerbindenCheckBox")->setChecked(connect);
+    QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton);
+    QCOMPARE(Window().CurrentDisplayMode(), mode);
+    QCOMPARE(Window().ConnectForWindows(), connect);
+    if (*legend == '\0') continue;
+    const graphwin::TSParameterForm* shown = mode <= M::BothReflections
+                                                 ? static_cast<graphwin::TSParameterForm*>(forms_->FormPhi())
+                                                 : forms_->FormVu();
+    QVERIFY(shown->isVisible());
+    QCOMPARE(shown->Plot().curves.legendHeading, std::string(legend));
+  }
 }
 
 void FrequencyPageTest::GainWindowTakesThePageAsItIs() {

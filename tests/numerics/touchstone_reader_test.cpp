@@ -19,46 +19,35 @@ void ExpectPoint(const TouchstoneData& data, std::size_t i, double z0, const M2&
   textbook::ExpectMatrixNear({p.s[0][0], p.s[0][1], p.s[1][0], p.s[1][1]}, s);
 }
 
-struct NetworkCase {
-  const char* name;
-  std::string header;  // option line, or the lines of a version 2.0 file before its data
-  const char* record;  // one record without its frequency
-  M2 s;                // worked out by hand at 50 ohms
-};
-
-class NetworkTest : public testing::TestWithParam<NetworkCase> {};
-
-TEST_P(NetworkTest, GivesSAtTheReferenceImpedance) {
-  const NetworkCase& c = GetParam();
-  const std::string content = "! hand-made\n" + c.header + "\n1 " + c.record + "\n";
-  const TouchstoneData data = ReadTouchstone(content, "t.s2p");
-  ASSERT_EQ(data.frequency.size(), 1U);
-  ExpectPoint(data, 0, 50, c.s);
-}
-
 // One network in the three formats: S11 = -0.5j, S21 = 2j, S12 = 0.1, S22 = -0.4. Then a shunt
 // 50 ohm resistor (S11 = -1/3, S21 = 2/3), a series one (1/3, 2/3), an amplifier with h21 = 10
 // (S21 = -h21) and a voltage amplifier with g21 = 10 (open input, shorted output, S21 = 2 g21).
-const std::string kVersion2 = "[Version] 2.0\n# GHz Z RI R 25\n[Number of Ports] 2\n[Network Data]";
-INSTANTIATE_TEST_SUITE_P(
-    Files, NetworkTest,
-    testing::Values(
-        NetworkCase{
-            "MagnitudeAngle", "# GHz S MA R 50", "0.5 -90 2 90 0.1 0 0.4 180", {C(0, -0.5L), 0.1L, C(0, 2), -0.4L}},
-        NetworkCase{"Decibels",
-                    "# db",
-                    "-6.020599913279624 270 6.020599913279624 90 -20 0 -7.958800173440752 -180",
-                    {C(0, -0.5L), 0.1L, C(0, 2), -0.4L}},
-        NetworkCase{"RealImaginary", "#RI", "0 -0.5 0 2 0.1 0 -0.4 0", {C(0, -0.5L), 0.1L, C(0, 2), -0.4L}},
-        NetworkCase{"ShuntResistorAsZ", "# Z RI", "1 0 1 0 1 0 1 0", {-1 / 3.0L, 2 / 3.0L, 2 / 3.0L, -1 / 3.0L}},
-        NetworkCase{"SeriesResistorAsY", "# Y RI", "1 0 -1 0 -1 0 1 0", {1 / 3.0L, 2 / 3.0L, 2 / 3.0L, 1 / 3.0L}},
-        NetworkCase{"CurrentAmplifierAsH", "# H RI", "1 0 10 0 0 0 0 0", {0, 0, -10, 1}},
-        NetworkCase{"VoltageAmplifierAsG", "# G RI", "0 0 10 0 0 0 0 0", {1, 0, 20, -1}},
-        // Version 1 data are normalised to R: a shunt of 25 ohms, which is -0.5 and 0.5 at 50 ohms.
-        NetworkCase{"ZNormalisedToR", "# Z RI R 25", "1 0 1 0 1 0 1 0", {-0.5L, 0.5L, 0.5L, -0.5L}},
-        // Version 2.0 data are in ohms: the shunt of 50 ohms again, whatever R says.
-        NetworkCase{"ZInOhmsInVersion2", kVersion2, "50 0 50 0 50 0 50 0", {-1 / 3.0L, 2 / 3.0L, 2 / 3.0L, -1 / 3.0L}}),
-    [](const testing::TestParamInfo<NetworkCase>& info) { return std::string(info.param.name); });
+TEST(TouchstoneReader, GivesSAtTheReferenceImpedance) {
+  const M2 network{C(0, -0.5L), 0.1L, C(0, 2), -0.4L}, shunt{-1 / 3.0L, 2 / 3.0L, 2 / 3.0L, -1 / 3.0L};
+  const struct {
+    std::string header;  // option line, or the lines of a version 2.0 file before its data
+    const char* record;  // one record without its frequency
+    M2 s;                // worked out by hand at 50 ohms
+  } cases[] = {
+      {"# GHz S MA R 50", "0.5 -90 2 90 0.1 0 0.4 180", network},
+      {"# db", "-6.020599913279624 270 6.020599913279624 90 -20 0 -7.958800173440752 -180", network},
+      {"#RI", "0 -0.5 0 2 0.1 0 -0.4 0", network},
+      {"# Z RI", "1 0 1 0 1 0 1 0", shunt},
+      {"# Y RI", "1 0 -1 0 -1 0 1 0", {1 / 3.0L, 2 / 3.0L, 2 / 3.0L, 1 / 3.0L}},
+      {"# H RI", "1 0 10 0 0 0 0 0", {0, 0, -10, 1}},
+      {"# G RI", "0 0 10 0 0 0 0 0", {1, 0, 20, -1}},
+      // Version 1 data are normalised to R: a shunt of 25 ohms, which is -0.5 and 0.5 at 50 ohms.
+      {"# Z RI R 25", "1 0 1 0 1 0 1 0", {-0.5L, 0.5L, 0.5L, -0.5L}},
+      // Version 2.0 data are in ohms: the shunt of 50 ohms again, whatever R says.
+      {"[Version] 2.0\n# GHz Z RI R 25\n[Number of Ports] 2\n[Network Data]", "50 0 50 0 50 0 50 0", shunt}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.header);
+    const std::string content = "! hand-made\n" + c.header + "\n1 " + c.record + "\n";
+    const TouchstoneData data = ReadTouchstone(content, "t.s2p");
+    ASSERT_EQ(data.frequency.size(), 1U);
+    ExpectPoint(data, 0, 50, c.s);
+  }
+}
 
 // S at the references r1, r2 through the impedance matrix, then at z0: a second route to compare with.
 M2 RenormalisedThroughZ(const M2& s, long double r1, long double r2, long double z0) {
@@ -101,74 +90,48 @@ TEST(TouchstoneReader, ReadsVersion1LayoutsAndLeavesTheNoiseBlockOut) {
   const SParameters second = TouchstoneScattering(data, 1, 50, "v1.s2p");
   EXPECT_EQ(second.s[1][0].first, 13);
   EXPECT_EQ(second.s[1][0].second, 158);
-
-  const std::string bareContent = "1 .5 0 2 0 .1 0 .5 0\n";
-  const TouchstoneData bare = ReadTouchstone(bareContent, "bare.s2p");
-  EXPECT_FALSE(bare.hasOptionLine);
-  EXPECT_EQ(bare.frequencyUnit, 1e9);
 }
 
-struct ErrorCase {
-  const char* name;
-  std::string content;
-  const char* fileName;
-  const char* expected;  // the start of the message behind "File NAME"
-};
-
-class TouchstoneErrorTest : public testing::TestWithParam<ErrorCase> {};
-
-TEST_P(TouchstoneErrorTest, NamesTheFileTheLineAndWhatWasExpected) {
-  const ErrorCase& c = GetParam();
-  try {
-    const TouchstoneData data = ReadTouchstone(c.content, c.fileName);
-    for (std::size_t i = 0; i < data.frequency.size(); ++i) TouchstoneScattering(data, i, 50, c.fileName);
-    ADD_FAILURE() << "no failure";
-  } catch (const ReadFailure& failure) {
-    EXPECT_EQ(failure.message.rfind("File " + std::string(c.fileName) + c.expected, 0), 0U) << failure.message;
+TEST(TouchstoneReader, FailuresNameTheFileTheLineAndWhatWasExpected) {
+  const std::string v2 = "[Version] 2.0\n# GHz\n";
+  const struct {
+    std::string content;
+    const char* fileName;
+    const char* expected;  // the start of the message behind "File NAME"
+  } cases[] = {
+      {"! c\n# GHz\n1 .5 0 2 0 .1 0 .5 0\n2 .5 0 2 0 x 0 .5 0\n", "a.s2p",
+       ", line 4: \"x\" is not a number. A two-port record holds a frequency and eight numbers"},
+      {"# GHz S MA R 50 X\n", "a.s2p", ", line 1: \"X\" is not an option of the \"#\" line"},
+      {"# R\n", "a.s2p", ", line 1: R needs the reference resistance"},
+      {"1 .5 0 2 0 .1 0 .5 0\n\n2 .5 0 2\n", "a.s2p",
+       ", line 3: the record that starts on this line holds only 4 of its 9 numbers."},
+      {v2 + "[Network Data]\n2 .5 0 2 0 .1 0 .5 0\n1 .5 0 2 0 .1 0 .5 0\n", "a.ts",
+       ", line 5: the frequency 1 does not lie above the one before it"},
+      {v2 + "[Number of Frequencies] 2\n[Network Data]\n1 .5 0 2 0 .1 0 .5 0\n[End]", "a.ts",
+       ", line 3: [Number of Frequencies] announces 2 frequencies, but the file holds 1."},
+      {v2 + "[Number of Ports] 4\n", "a.ts", ", line 3: the file describes 4 ports"},
+      {"1 .5 0 2 0 .1 0 .5 0\n", "a.S4P", " is a Touchstone file of 4 ports"},
+      {"# GHz\n[Network Data]\n", "a.s2p", ", line 2: [Network Data] needs a line \"[Version] 2.0\" before it."},
+      {v2 + "[Mixed-Mode Order] D2,1\n", "a.ts",
+       ", line 3: [Mixed-Mode Order] is not a keyword of a two-port Touchstone file."},
+      {"[Version 2.0\n", "a.ts", ", line 1: the keyword [Version 2.0 lacks its closing"},
+      {v2 + "[Reference] 50\n[Network Data]\n", "a.ts", ", line 4: [Reference] needs one"},
+      {v2 + "[Number of Frequencies] 2.5\n", "a.ts", ", line 3: [Number of Frequencies] needs a whole number"},
+      {v2 + "[Matrix Format] Lower\n", "a.ts", ", line 3: [Matrix Format] Lower is not read"},
+      {v2 + "1 .5 0 2 0 .1 0 .5 0\n", "a.ts", ", line 3: numbers stand before [Network Data]"},
+      // z = -I has no S-parameters: z + I is singular.
+      {"# Z RI\n1 -1 0 0 0 0 0 -1 0\n", "a.s2p", ", line 2: this record gives no finite S-parameters"},
+      {"! only a comment\n# GHz S MA R 50\n", "a.s2p", " holds no network data."}};
+  for (const auto& c : cases) {
+    try {
+      const TouchstoneData data = ReadTouchstone(c.content, c.fileName);
+      for (std::size_t i = 0; i < data.frequency.size(); ++i) TouchstoneScattering(data, i, 50, c.fileName);
+      ADD_FAILURE() << "no failure: " << c.expected;
+    } catch (const ReadFailure& failure) {
+      EXPECT_EQ(failure.message.rfind("File " + std::string(c.fileName) + c.expected, 0), 0U) << failure.message;
+    }
   }
 }
-
-const std::string kV2 = "[Version] 2.0\n# GHz\n";
-INSTANTIATE_TEST_SUITE_P(
-    Files, TouchstoneErrorTest,
-    testing::Values(
-        ErrorCase{"NotANumber", "! c\n# GHz\n1 .5 0 2 0 .1 0 .5 0\n2 .5 0 2 0 x 0 .5 0\n", "a.s2p",
-                  ", line 4: \"x\" is not a number. A two-port record holds a frequency and eight numbers"},
-        ErrorCase{"NoiseNotANumber", "1 .5 0 2 0 .1 0 .5 0\n0.5 1 .4 30 -\n", "a.s2p",
-                  ", line 2: \"-\" is not a number. A noise record holds"},
-        ErrorCase{"UnknownOption", "# GHz S MA R 50 X\n", "a.s2p",
-                  ", line 1: \"X\" is not an option of the \"#\" line"},
-        ErrorCase{"ResistanceMissing", "# R\n", "a.s2p", ", line 1: R needs the reference resistance"},
-        ErrorCase{"RecordCut", "1 .5 0 2 0 .1 0 .5 0\n\n2 .5 0 2\n", "a.s2p",
-                  ", line 3: the record that starts on this line holds only 4 of its 9 numbers."},
-        ErrorCase{"NoiseRecordCut", "2 .5 0 2 0 .1 0 .5 0\n1 0.5 .4\n", "a.s2p",
-                  ", line 2: the record that starts on this line holds only 3 of its 5"},
-        ErrorCase{"FallingInVersion2", kV2 + "[Network Data]\n2 .5 0 2 0 .1 0 .5 0\n1 .5 0 2 0 .1 0 .5 0\n", "a.ts",
-                  ", line 5: the frequency 1 does not lie above the one before it"},
-        ErrorCase{"CountDiffers", kV2 + "[Number of Frequencies] 2\n[Network Data]\n1 .5 0 2 0 .1 0 .5 0\n[End]",
-                  "a.ts", ", line 3: [Number of Frequencies] announces 2 frequencies, but the file holds 1."},
-        ErrorCase{"FourPorts", kV2 + "[Number of Ports] 4\n", "a.ts", ", line 3: the file describes 4 ports"},
-        ErrorCase{"FourPortName", "1 .5 0 2 0 .1 0 .5 0\n", "a.S4P", " is a Touchstone file of 4 ports"},
-        ErrorCase{"KeywordInVersion1", "# GHz\n[Network Data]\n", "a.s2p",
-                  ", line 2: [Network Data] needs a line \"[Version] 2.0\" before it."},
-        ErrorCase{"UnknownKeyword", kV2 + "[Mixed-Mode Order] D2,1\n", "a.ts",
-                  ", line 3: [Mixed-Mode Order] is not a keyword of a two-port Touchstone file."},
-        ErrorCase{"OpenKeyword", "[Version 2.0\n", "a.ts", ", line 1: the keyword [Version 2.0 lacks its closing"},
-        ErrorCase{"OtherVersion", "[Version] 1.0\n", "a.ts", ", line 1: [Version] 1.0 is not read"},
-        ErrorCase{"DataOrder", kV2 + "[Two-Port Data Order] 21-12\n", "a.ts",
-                  ", line 3: [Two-Port Data Order] takes 12_21"},
-        ErrorCase{"OneReference", kV2 + "[Reference] 50\n[Network Data]\n", "a.ts", ", line 4: [Reference] needs one"},
-        ErrorCase{"WholeNumber", kV2 + "[Number of Frequencies] 2.5\n", "a.ts",
-                  ", line 3: [Number of Frequencies] needs a whole number"},
-        ErrorCase{"LowerMatrix", kV2 + "[Matrix Format] Lower\n", "a.ts",
-                  ", line 3: [Matrix Format] Lower is not read"},
-        ErrorCase{"DataBeforeKeyword", kV2 + "1 .5 0 2 0 .1 0 .5 0\n", "a.ts",
-                  ", line 3: numbers stand before [Network Data]"},
-        // z = -I has no S-parameters: z + I is singular.
-        ErrorCase{"NoEquivalent", "# Z RI\n1 -1 0 0 0 0 0 -1 0\n", "a.s2p",
-                  ", line 2: this record gives no finite S-parameters"},
-        ErrorCase{"NoData", "! only a comment\n# GHz S MA R 50\n", "a.s2p", " holds no network data."}),
-    [](const testing::TestParamInfo<ErrorCase>& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace numerics

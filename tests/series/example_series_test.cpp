@@ -15,15 +15,11 @@ struct ExamplePoint {
   double closedFormFt;   // Hz, the model's 1 / (2 pi (tauF + VT/Ic (Cje + Cmu) + Cmu (re + rc)))
 };
 
-// The closed-form transit frequencies that tools/make_examples.cpp states for its model.
-const ExamplePoint kExamples[] = {
-    {"bjt_01_0.5mA.s2p", 0.5e-3, 3.498e9},  {"bjt_02_1mA.s2p", 1e-3, 6.094e9},
-    {"bjt_03_2mA.s2p", 2e-3, 9.680e9},      {"bjt_04_3mA.s2p", 3e-3, 12.018e9},
-    {"bjt_05_5mA.s2p", 5e-3, 14.785e9},     {"bjt_06_7.5mA.s2p", 7.5e-3, 16.441e9},
-    {"bjt_07_10mA.s2p", 10e-3, 17.067e9},   {"bjt_08_15mA.s2p", 15e-3, 16.731e9},
-    {"bjt_09_20mA.s2p", 20e-3, 15.368e9},   {"bjt_10_25mA.s2p", 25e-3, 13.647e9},
-    {"bjt_11_30mA.s2p", 30e-3, 11.907e9},   {"bjt_12_40mA.s2p", 40e-3, 8.906e9},
-};
+// Closed-form transit frequencies that tools/make_examples.cpp states for its model: the lowest
+// current, the highest fT (where fmax comes from MSG at 2 GHz) and the highest current.
+const ExamplePoint kExamples[] = {{"bjt_01_0.5mA.s2p", 0.5e-3, 3.498e9},
+                                  {"bjt_07_10mA.s2p", 10e-3, 17.067e9},
+                                  {"bjt_12_40mA.s2p", 40e-3, 8.906e9}};
 
 TEST(ExampleSeries, ExtractsTheModelsTransitFrequencies) {
   SeriesList list;

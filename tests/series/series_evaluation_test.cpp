@@ -24,6 +24,20 @@ const PolarPoint kPoints[] = {{0.62, -110, 5.6, 105, 0.07, 42, 0.52, -28},
                               {0.58, -125, 4.9, 96, 0.08, 38, 0.48, -33},
                               {0.55, -138, 4.3, 88, 0.09, 35, 0.45, -37}};
 
+// The three points at 1.8, 2.0 and 2.2 GHz.
+const std::string kThreePoints =
+    "! Ic=10m\n# GHz S MA R 50\n" + DataLine("1.8", kPoints[0]) + DataLine("2.0", kPoints[1]) + DataLine("2.2", kPoints[2]);
+
+long double PointFrequency(int point) { return 1.8e9L + point * 0.2e9L; }
+
+long double H21(int point) { return fixtures::CurrentGain(kPoints[point].Matrix(), kZ0); }
+
+// The slope in dB per decade between the neighbours of a point, of a gain given per point.
+long double NeighbourSlope(int point, long double (*gainDb)(int)) {
+  const int below = std::max(point - 1, 0), above = std::min(point + 1, 2);
+  return (gainDb(above) - gainDb(below)) / std::log10(PointFrequency(above) / PointFrequency(below));
+}
+
 SeriesSettings Settings(double fo, double multiplier) {
   SeriesSettings settings = DefaultSeriesSettings();
   settings.fo = fo;
@@ -37,55 +51,35 @@ FileFigures Evaluate(const std::string& content, const SeriesSettings& settings)
   return file.figures;
 }
 
-struct SelectionCase {
-  const char* name;
-  double fo;
-  int point;  // index into kPoints of the point kept, -1 for none
-};
-
-class AnalysisPointTest : public testing::TestWithParam<SelectionCase> {};
-
-TEST_P(AnalysisPointTest, KeepsTheLastPointAtOrBelowFo) {
-  const SelectionCase& c = GetParam();
-  const std::string content = "! Ic=10m\n# GHz S MA R 50\n" + DataLine("1.8", kPoints[0]) + DataLine("2.0", kPoints[1]) +
-                              DataLine("2.2", kPoints[2]);
-  const FileFigures f = Evaluate(content, Settings(c.fo, 1e9));
-  if (c.point < 0) {
-    for (const double value : {f.fT, f.fmax, f.magDb, f.k, f.s21}) EXPECT_EQ(value, 0);
-    return;
+// fo nearer to the next point, at the first point, and below it (nothing kept).
+TEST(SeriesEvaluation, KeepsTheLastPointAtOrBelowFo) {
+  for (const auto& [fo, point] : {std::pair{2.19e9, 1}, std::pair{1.8e9, 0}, std::pair{1.7e9, -1}}) {
+    const FileFigures f = Evaluate(kThreePoints, Settings(fo, 1e9));
+    if (point < 0) {
+      for (const double value : {f.fT, f.fmax, f.magDb, f.k, f.s21}) EXPECT_EQ(value, 0);
+      continue;
+    }
+    const fixtures::M2 s = kPoints[point].Matrix();
+    EXPECT_NEAR(f.fT / (H21(point) * PointFrequency(point)), 1, 1e-12) << fo;
+    EXPECT_NEAR(f.fmax / (std::sqrt(fixtures::BestGain(s)) * PointFrequency(point)), 1, 1e-12) << fo;
+    EXPECT_NEAR(f.magDb, 10 * std::log10(fixtures::BestGain(s)), 1e-11) << fo;
+    EXPECT_NEAR(f.k, textbook::Rollett(s), 1e-12) << fo;
+    EXPECT_NEAR(f.s21, kPoints[point].m21, 1e-13) << fo;
+    EXPECT_NEAR(*f.check.fT.slope, NeighbourSlope(point, [](int i) { return 20 * std::log10(H21(i)); }), 1e-9) << fo;
   }
-  const fixtures::M2 s = kPoints[c.point].Matrix();
-  const long double freq = 1.8e9L + c.point * 0.2e9L;
-  EXPECT_NEAR(f.fT / (fixtures::CurrentGain(s, kZ0) * freq), 1, 1e-12);
-  EXPECT_NEAR(f.fmax / (std::sqrt(fixtures::BestGain(s)) * freq), 1, 1e-12);
-  EXPECT_NEAR(f.magDb, 10 * std::log10(fixtures::BestGain(s)), 1e-11);
-  EXPECT_NEAR(f.k, textbook::Rollett(s), 1e-12);
-  EXPECT_NEAR(f.s21, kPoints[c.point].m21, 1e-13);
 }
 
-INSTANTIATE_TEST_SUITE_P(Fo, AnalysisPointTest,
-                         testing::Values(SelectionCase{"NearerToTheNextPoint", 2.19e9, 1},
-                                         SelectionCase{"AtTheFirstPoint", 1.8e9, 0},
-                                         SelectionCase{"BelowTheFirstPoint", 1.7e9, -1}),
-                         [](const testing::TestParamInfo<SelectionCase>& info) { return std::string(info.param.name); });
-
-TEST(SeriesEvaluation, TakesFmaxFromTheBestGainOrFromU) {
-  // k < 1 at the first point (MSG) and k > 1 at the second (MAG).
-  const PolarPoint msgPoint{0.7, -60, 8, 120, 0.05, 60, 0.8, -25};
-  const PolarPoint magPoint{0.3, -160, 1.5, 60, 0.1, 40, 0.3, -60};
-  for (const PolarPoint& p : {msgPoint, magPoint}) {
-    const fixtures::M2 s = p.Matrix();
-    SeriesSettings settings = Settings(1e9, 1e6);
-    const std::string content = "! Ic=1m\n" + DataLine("1000", p);
-    const FileFigures fromGain = Evaluate(content, settings);
-    settings.fmaxFromU = true;
-    const FileFigures fromU = Evaluate(content, settings);
-    EXPECT_NEAR(fromGain.fmax / (std::sqrt(fixtures::BestGain(s)) * 1e9L), 1, 1e-12);
-    EXPECT_NEAR(fromU.fmax / (std::sqrt(std::fabs(fixtures::MasonU(s, kZ0))) * 1e9L), 1, 1e-11);
-    EXPECT_EQ(fromU.magDb, fromGain.magDb);  // MAG/MSG stays the best gain
-  }
-  EXPECT_LT(textbook::Rollett(msgPoint.Matrix()), 1);
-  EXPECT_GT(textbook::Rollett(magPoint.Matrix()), 1);
+// With U chosen, fmax and the gain the check follows are U; MAG/MSG stays the best gain.
+TEST(SeriesEvaluation, TakesFmaxFromUWhenChosen) {
+  SeriesSettings settings = Settings(2e9, 1e9);
+  const FileFigures fromGain = Evaluate(kThreePoints, settings);
+  settings.fmaxFromU = true;
+  const FileFigures fromU = Evaluate(kThreePoints, settings);
+  const auto uDb = [](int i) { return 10 * std::log10(fixtures::MasonU(kPoints[i].Matrix(), kZ0)); };
+  EXPECT_NEAR(fromU.fmax / (std::sqrt(fixtures::MasonU(kPoints[1].Matrix(), kZ0)) * 2e9L), 1, 1e-11);
+  EXPECT_NEAR(*fromU.check.fmax.slope, NeighbourSlope(1, uDb), 1e-9);
+  EXPECT_FALSE(fromU.check.fmaxFromMsg);
+  EXPECT_EQ(fromU.magDb, fromGain.magDb);
 }
 
 TEST(SeriesEvaluation, InsertsTheGroundInductanceIntoTheCommonLead) {
@@ -105,8 +99,7 @@ TEST(SeriesEvaluation, InsertsTheGroundInductanceIntoTheCommonLead) {
   SeriesSettings settings = Settings(2e9, 1e6);
   settings.withLgnd = true;
   settings.lgnd = lgnd;
-  const std::string content = "! Ic=1m\n" + DataLine("2000", p);
-  const FileFigures with = Evaluate(content, settings);
+  const FileFigures with = Evaluate("! Ic=1m\n" + DataLine("2000", p), settings);
   EXPECT_NEAR(with.fT / (fixtures::CurrentGain(s, kZ0) * f), 1, 1e-10);
   EXPECT_NEAR(with.k, textbook::Rollett(s), 1e-10);
   EXPECT_NEAR(with.magDb, 10 * std::log10(fixtures::BestGain(s)), 1e-9);
@@ -128,25 +121,18 @@ TEST(SeriesEvaluation, TheStabilityLimitIsTheStartOfTheLastStableRun) {
 }
 
 // Comment, option, blank and word lines are skipped; text behind the eight numbers is ignored
-// (a vendor file's gain column behind a "!"), and the last line needs no line break.
-TEST(SeriesEvaluation, ReadsFrequenciesWithTheMultiplierAndSkipsOtherLines) {
+// (a vendor file's gain column behind a "!"); a frequency that does not rise does not end the
+// reading, and the last line needs no line break.
+TEST(SeriesEvaluation, ReadsEveryPointWithTheMultiplierAndSkipsOtherLines) {
   std::string first = DataLine("1000", kPoints[0]);
   first.insert(first.size() - 1, " !    43.2");
   std::string last = DataLine("3000", kPoints[2]);
   last.pop_back();
   const std::string content = "! Ic=2m\n# MHz S MA R 50\n! Freq S11 S21\n\n" + first + "Freq 1 2 3\n" +
-                              DataLine("   2000", kPoints[1]) + last;
+                              DataLine("   2000", kPoints[1]) + DataLine("2000", kPoints[1]) + last;
   const FileFigures f = Evaluate(content, Settings(3.5e9, 1e6));
   EXPECT_EQ(f.current, 2e-3);
-  EXPECT_NEAR(f.fT / (fixtures::CurrentGain(kPoints[2].Matrix(), kZ0) * 3e9L), 1, 1e-12);
-}
-
-// A frequency that does not rise does not end the plain reading: the points after it count too.
-TEST(SeriesEvaluation, PlainReadingReadsToTheEndOfTheFile) {
-  const std::string content = "! Ic=3m\n" + DataLine("1000", kPoints[0]) + DataLine("2000", kPoints[1]) +
-                              DataLine("2000", kPoints[2]) + DataLine("3000", kPoints[0]);
-  const FileFigures f = Evaluate(content, Settings(2.5e9, 1e6));
-  EXPECT_NEAR(f.fT / (fixtures::CurrentGain(kPoints[2].Matrix(), kZ0) * 2e9L), 1, 1e-12);
+  EXPECT_NEAR(f.fT / (H21(2) * 3e9L), 1, 1e-12);
 }
 
 // The Touchstone reading leaves the noise block out and, with the automatic multiplier, takes
@@ -156,13 +142,13 @@ TEST(SeriesEvaluation, TouchstoneReadingTakesTheUnitOfTheOptionLine) {
   SeriesSettings settings = Settings(2.5e9, 1e9);
   settings.reading = numerics::FileReading::Touchstone;
   const FileFigures explicitUnit = Evaluate("! Ic=3m\n# MHz\n" + data, settings);
-  EXPECT_NEAR(explicitUnit.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e9L), 1, 1e-12);
+  EXPECT_NEAR(explicitUnit.fT / (H21(1) * 2e9L), 1, 1e-12);
   settings.automaticMultiplier = true;
   const FileFigures fromOptionLine = Evaluate("! Ic=3m\n# MHz\n" + data, settings);
   EXPECT_EQ(fromOptionLine.current, 3e-3);
-  EXPECT_NEAR(fromOptionLine.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e6L), 1, 1e-12);
+  EXPECT_NEAR(fromOptionLine.fT / (H21(1) * 2e6L), 1, 1e-12);
   const FileEvaluation bare = EvaluateSeriesText("! Ic=3m\n" + data, "bare.s2p", settings);
-  EXPECT_NEAR(bare.figures.fT / (fixtures::CurrentGain(kPoints[1].Matrix(), kZ0) * 2e9L), 1, 1e-12);
+  EXPECT_NEAR(bare.figures.fT / (H21(1) * 2e9L), 1, 1e-12);
   EXPECT_EQ(bare.notes, std::vector<std::string>{"File bare.s2p has no \"#\" option line to take its frequency unit "
                                                  "from; its frequencies are taken in GHz, the multiplier selected."});
 }
@@ -178,11 +164,10 @@ TEST(SeriesEvaluation, TellsWhenTheTextIsNotLinesOfAsciiOrUtf8) {
   EXPECT_EQ(file.notes[0].rfind("File odd.s2p ends its lines with a carriage return alone", 0), 0U) << file.notes[0];
 }
 
-// Id is read only for the Ic choice, "#" lines count as comments, and a later line overwrites.
+// Id is read only for the Ic choice, and a later line overwrites.
 TEST(SeriesEvaluation, ReadsTheCurrentOnlyForTheIcChoice) {
   const std::tuple<const char*, XAxisChoice, double> cases[] = {{"! Id=2m\n", XAxisChoice::CurrentIc, 2e-3},
                                                                 {"! Id=2m\n", XAxisChoice::CurrentId, 0},
-                                                                {"# ic=1.5m\n", XAxisChoice::CurrentIc, 1.5e-3},
                                                                 {"! Ic=1m\n! Ic=3m\n", XAxisChoice::CurrentIc, 3e-3}};
   for (const auto& [comments, choice, current] : cases) {
     SeriesSettings settings = Settings(2e9, 1e6);
@@ -202,51 +187,32 @@ TEST(SeriesEvaluation, ReportsAFileWithoutCurrentAndKeepsItsValues) {
             std::vector<std::string>{"Possibly the file " + path + " might be errorness (e.g. no Ic specified)."});
   ASSERT_EQ(arrays.size(), 1U);
   EXPECT_EQ(arrays[0].current, 0);
-  EXPECT_NEAR(arrays[0].fT / (fixtures::CurrentGain(kPoints[0].Matrix(), kZ0) * 1e9L), 1, 1e-12);
+  EXPECT_NEAR(arrays[0].fT / (H21(0) * 1e9L), 1, 1e-12);
 }
 
-TEST(SeriesEvaluation, AnEmptyListAsksForFiles) {
-  SeriesArrays arrays(1);
-  arrays[0].fT = 7;
-  const SeriesEvaluation result = EvaluateSeries(SeriesList{}, DefaultSeriesSettings(), arrays);
-  EXPECT_FALSE(result.completed);
-  EXPECT_EQ(result.messages, std::vector<std::string>{"Please drag s2p file(s) to the program."});
-  EXPECT_EQ(arrays.size(), 1U);
+// An empty list and a file that cannot be read end the evaluation; the arrays stay as they were.
+TEST(SeriesEvaluation, EndsWithoutFilesOrAtAnUnreadableOne) {
+  const std::string first = fixtures::WriteFixture("first.s2p", "! Ic=1m\n" + DataLine("1000", kPoints[0]));
+  // The missing numbers of a cut record are not read as zeros.
+  const std::string cut = fixtures::WriteFixture("cut.s2p", "! Ic=1m\n1000 0.5 -30 4 100 0.1\n");
+  const std::string missing = fixtures::FixturePath("missing.s2p");
+  const std::pair<std::vector<std::string>, std::string> cases[] = {
+      {{}, "Please drag s2p file(s) to the program."},
+      {{first, missing, first}, "File " + missing + " cannot be read (No such file or directory)"},
+      {{first, cut, first}, "File " + cut + ", line 2: the file ends within this record."}};
+  for (const auto& [paths, message] : cases) {
+    SeriesList list;
+    list.Append(paths);
+    SeriesArrays arrays(2);
+    arrays[1].k = 3;
+    const SeriesEvaluation result = EvaluateSeries(list, Settings(2e9, 1e6), arrays);
+    EXPECT_FALSE(result.completed);
+    ASSERT_EQ(result.messages.size(), 1U);
+    EXPECT_EQ(result.messages[0].rfind(message, 0), 0U) << result.messages[0];
+    EXPECT_EQ(arrays.size(), 2U);
+    EXPECT_EQ(arrays[1].k, 3);
+  }
 }
-
-struct FailureCase {
-  const char* name;
-  const char* content;  // nullptr: the file does not exist
-  const char* expected;  // what the last message says behind the file's path
-};
-
-class UnreadableFileTest : public testing::TestWithParam<FailureCase> {};
-
-TEST_P(UnreadableFileTest, EndsTheEvaluationNamingTheFileAndKeepsTheArrays) {
-  const std::string first = fixtures::WriteFixture("first.s2p", "! Vce=3V\n" + DataLine("1000", kPoints[0]));
-  const std::string bad = GetParam().content ? fixtures::WriteFixture("bad.s2p", GetParam().content)
-                                             : fixtures::FixturePath("missing.s2p");
-  SeriesList list;
-  list.Append({first, bad, first});
-  SeriesArrays arrays(2);
-  arrays[1].k = 3;
-  const SeriesEvaluation result = EvaluateSeries(list, Settings(2e9, 1e6), arrays);
-  EXPECT_FALSE(result.completed);
-  ASSERT_EQ(result.messages.size(), 2U);  // the first file's missing current, then the failure
-  EXPECT_NE(result.messages[1].find("File " + bad + GetParam().expected), std::string::npos) << result.messages[1];
-  ASSERT_EQ(arrays.size(), 2U);
-  EXPECT_EQ(arrays[1].k, 3);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, UnreadableFileTest,
-    testing::Values(FailureCase{"Missing", nullptr, " cannot be read (No such file or directory)"},
-                    FailureCase{"NumberWithUnit", "! Ic=1m\n\n1000 0.5 -30 4 100deg 0.1 30 0.4 -20\n",
-                                ", line 3: \"100deg\" is not a number"},
-                    // The missing numbers are not read as zeros.
-                    FailureCase{"CutWithinARecord", "! Ic=1m\n1000 0.5 -30 4 100 0.1\n",
-                                ", line 2: the file ends within this record."}),
-    [](const testing::TestParamInfo<FailureCase>& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace series

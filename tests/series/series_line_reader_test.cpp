@@ -30,10 +30,8 @@ TEST_P(FirstLineTest, ClassifiesTheFirstNonEmptyLine) {
 INSTANTIATE_TEST_SUITE_P(
     Lines, FirstLineTest,
     testing::Values(
-        LineCase{"CurrentComment", "! Ic=1.5m\n", SeriesLineKind::Comment, 0, " Ic=1.5m"},
         LineCase{"OptionLine", "# MHz S MA R 50\r\n100 1 2", SeriesLineKind::Comment, 0, " MHz S MA R 50"},
         LineCase{"BlankLineSkipped", "      \n300 1", SeriesLineKind::Data, 300, ""},
-        LineCase{"NineteenBlanks", std::string(19, ' ') + "7 1", SeriesLineKind::Data, 7, ""},
         // The twentieth character read is still a blank, so the token is empty.
         LineCase{"TwentyBlanks", std::string(20, ' ') + "7 1", SeriesLineKind::NotData, 0, ""},
         LineCase{"ExponentToken", "2.5e3 1", SeriesLineKind::Data, 2500, ""},
@@ -43,7 +41,6 @@ INSTANTIATE_TEST_SUITE_P(
         LineCase{"TokenAtEndOfLine", "250\n1", SeriesLineKind::Data, 250, ""},
         // The token ends after 199 characters of the line.
         LineCase{"LongTokenIsCut", std::string(250, '1'), SeriesLineKind::Data, std::stod(std::string(199, '1')), ""},
-        LineCase{"Word", "Freq S11 S21", SeriesLineKind::NotData, 0, ""},
         LineCase{"LonePoint", ". 1 2", SeriesLineKind::NotData, 0, ""},
         LineCase{"CommentAfterBlank", "  ! Ic=1m", SeriesLineKind::NotData, 0, ""},
         LineCase{"OnlyBlankLines", "\n   \r\n\n", SeriesLineKind::EndOfFile, 0, ""}),
@@ -64,12 +61,9 @@ TEST_P(BiasCurrentTest, ReadsTheCurrentBehindTheKey) {
 
 INSTANTIATE_TEST_SUITE_P(
     Comments, BiasCurrentTest,
-    testing::Values(CurrentCase{"Compact", " Ic=1.5m", 1.5e-3},
-                    CurrentCase{"BlanksAround", " IC = 1.5 m", 1.5e-3},
+    testing::Values(CurrentCase{"BlanksAround", " IC = 1.5 m", 1.5e-3},
                     CurrentCase{"CollectorWinsOverDrain", " Id=2m Ic=3m", 3e-3},
-                    CurrentCase{"VendorLine", " Bias condition: Vce=3V, Ic=5mA", 5e-3},
                     CurrentCase{"NoEqualsSign", " Ic 1.5m", std::nullopt},
-                    CurrentCase{"NoKey", " closed-form fT of the model: 3.5 GHz", std::nullopt},
                     CurrentCase{"KeyWithoutValue", " Vce=3V, Ic", 0.0},
                     // "IC" inside a word counts too, and what follows it reads as no current.
                     CurrentCase{"KeyInsideAWord", " Electrical data: Vce=3", 0.0},

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 #include "diagram/curves.h"
@@ -21,63 +21,26 @@ PageScene ThreeFiles() {
   return scene;
 }
 
-struct XCase {
-  const char* name;
-  series::XAxisChoice choice;
-  bool density;
-  std::vector<double> x;
-  const char* title;
-};
-
-class XValuesTest : public testing::TestWithParam<XCase> {};
-
-TEST_P(XValuesTest, FollowTheXAxisChoice) {
-  PageScene scene = ThreeFiles();
-  scene.settings.xAxis = GetParam().choice;
-  scene.settings.density = GetParam().density;
-  scene.settings.area = 500;
-  const std::vector<double> x = XValues(scene);
-  ASSERT_EQ(x.size(), GetParam().x.size());
-  for (std::size_t i = 0; i < x.size(); ++i) EXPECT_DOUBLE_EQ(x[i], GetParam().x[i]) << i;
-  EXPECT_EQ(XAxisTitle(scene.settings), GetParam().title);
-}
-
 // j = 1000 * I / area: 1 mA on 500 square micrometres is 0.002 mA per square micrometre.
-INSTANTIATE_TEST_SUITE_P(
-    Choices, XValuesTest,
-    testing::Values(XCase{"FileNumberIgnoresDensity", series::XAxisChoice::FileNumber, true, {1, 2, 3}, "File Number"},
-                    XCase{"CurrentIc", series::XAxisChoice::CurrentIc, false, {1e-3, 2e-3, 4e-3}, "I in A"},
-                    XCase{"Density", series::XAxisChoice::CurrentIc, true, {0.002, 0.004, 0.008}, "I in mA/µm²"}),
-    [](const testing::TestParamInfo<XCase>& info) { return std::string(info.param.name); });
-
-struct GraphCase {
-  const char* name;
-  OutputPage page;
-  GraphicChoice choice;
-  const char* yTitle;
-  std::vector<std::vector<double>> series;
-  double leastYMax;
-  bool legend;
-  const char* names;  // the series' names as the legend inside the picture shows them, joined by "|"
-  bool crosses = true;  // the first series shown is fT, k or f(k>1): green crosses, else red circles
-};
-
-class PageGraphTest : public testing::TestWithParam<GraphCase> {};
-
-TEST_P(PageGraphTest, ShowsTheChosenSeries) {
-  PageScene scene = ThreeFiles();
-  scene.choice = GetParam().choice;
-  const PageGraph graph = GraphOf(GetParam().page, scene);
-  EXPECT_EQ(graph.yTitle, GetParam().yTitle);
-  ASSERT_EQ(graph.series.size(), GetParam().series.size());
-  for (std::size_t s = 0; s < graph.series.size(); ++s) EXPECT_EQ(graph.series[s].y, GetParam().series[s]) << s;
-  EXPECT_EQ(graph.series.front().colour, GetParam().crosses ? diagram::kGreen : diagram::kRed);
-  EXPECT_EQ(graph.series.front().marker, GetParam().crosses ? diagram::kMarkerCross : diagram::kMarkerCircle);
-  EXPECT_EQ(graph.leastYMax, GetParam().leastYMax);
-  EXPECT_EQ(BothSeriesShown(GetParam().page, scene.choice), GetParam().legend);
-  std::string names;
-  for (const PlotSeries& s : graph.series) names += (names.empty() ? "" : "|") + s.name;
-  EXPECT_EQ(names, GetParam().names);
+TEST(XValues, FollowTheXAxisChoice) {
+  const struct {
+    series::XAxisChoice choice;
+    bool density;
+    std::vector<double> x;
+    const char* title;
+  } cases[] = {{series::XAxisChoice::FileNumber, true, {1, 2, 3}, "File Number"},
+               {series::XAxisChoice::CurrentIc, false, {1e-3, 2e-3, 4e-3}, "I in A"},
+               {series::XAxisChoice::CurrentIc, true, {0.002, 0.004, 0.008}, "I in mA/µm²"}};
+  for (const auto& c : cases) {
+    PageScene scene = ThreeFiles();
+    scene.settings.xAxis = c.choice;
+    scene.settings.density = c.density;
+    scene.settings.area = 500;
+    const std::vector<double> x = XValues(scene);
+    ASSERT_EQ(x.size(), c.x.size());
+    for (std::size_t i = 0; i < x.size(); ++i) EXPECT_DOUBLE_EQ(x[i], c.x[i]) << c.title << i;
+    EXPECT_EQ(XAxisTitle(scene.settings), c.title);
+  }
 }
 
 constexpr GraphicChoice kAll{};
@@ -86,56 +49,67 @@ constexpr GraphicChoice kFmaxOnly{false, true, false, false};
 constexpr GraphicChoice kMagOnly{false, false, true, false};
 constexpr GraphicChoice kKOnly{false, false, false, true};
 
-INSTANTIATE_TEST_SUITE_P(
-    Choices, PageGraphTest,
-    testing::Values(
-        GraphCase{"FtFmaxBoth", OutputPage::FtFmax, kAll, "fT & fmax in Hz", {{10e9, 20e9, 25e9}, {16e9, 30e9, 35e9}}, 0,
-                  true, "fT|fmax"},
-        GraphCase{"FtOnly", OutputPage::FtFmax, kFTOnly, "fT in Hz", {{10e9, 20e9, 25e9}}, 0, false, "fT"},
-        GraphCase{"FmaxOnly", OutputPage::FtFmax, kFmaxOnly, "fmax in Hz", {{16e9, 30e9, 35e9}}, 0, false, "fmax", false},
-        GraphCase{"KTimesTenAndMag", OutputPage::KMag, kAll, "k (x10), MAG+MSG in dB", {{8, 12, 25}, {12.5, 15, 16.5}}, 15,
-                  true, "k (x10)|MAG/MSG"},
-        GraphCase{"KOnlyUnscaled", OutputPage::KMag, kKOnly, "k Factor", {{0.8, 1.2, 2.5}}, 0, false, "k"},
-        GraphCase{"MagOnly", OutputPage::KMag, kMagOnly, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, false, "MAG/MSG", false},
-        GraphCase{"StabilityLimit", OutputPage::StabilityLimit, kAll, "f(k>1) in Hz", {{0, 3e9, 1e9}}, 0, false, "f(k>1)"}),
-    [](const testing::TestParamInfo<GraphCase>& info) { return std::string(info.param.name); });
+TEST(PageGraph, ShowsTheChosenSeries) {
+  const struct {
+    OutputPage page;
+    GraphicChoice choice;
+    const char* yTitle;
+    std::vector<std::vector<double>> series;
+    double leastYMax;
+    const char* names;    // the series' names as the legend inside the picture shows them, joined by "|"
+    bool crosses = true;  // the first series shown is fT, k or f(k>1): green crosses, else red circles
+  } cases[] = {
+      {OutputPage::FtFmax, kAll, "fT & fmax in Hz", {{10e9, 20e9, 25e9}, {16e9, 30e9, 35e9}}, 0, "fT|fmax"},
+      {OutputPage::FtFmax, kFTOnly, "fT in Hz", {{10e9, 20e9, 25e9}}, 0, "fT"},
+      {OutputPage::FtFmax, kFmaxOnly, "fmax in Hz", {{16e9, 30e9, 35e9}}, 0, "fmax", false},
+      {OutputPage::KMag, kAll, "k (x10), MAG+MSG in dB", {{8, 12, 25}, {12.5, 15, 16.5}}, 15, "k (x10)|MAG/MSG"},
+      {OutputPage::KMag, kKOnly, "k Factor", {{0.8, 1.2, 2.5}}, 0, "k"},
+      {OutputPage::KMag, kMagOnly, "MAG/MSG in dB", {{12.5, 15, 16.5}}, 15, "MAG/MSG", false},
+      {OutputPage::StabilityLimit, kAll, "f(k>1) in Hz", {{0, 3e9, 1e9}}, 0, "f(k>1)"}};
+  for (const auto& c : cases) {
+    PageScene scene = ThreeFiles();
+    scene.choice = c.choice;
+    const PageGraph graph = GraphOf(c.page, scene);
+    EXPECT_EQ(graph.yTitle, c.yTitle);
+    ASSERT_EQ(graph.series.size(), c.series.size()) << c.yTitle;
+    for (std::size_t s = 0; s < graph.series.size(); ++s) EXPECT_EQ(graph.series[s].y, c.series[s]) << c.yTitle;
+    EXPECT_EQ(graph.series.front().colour, c.crosses ? diagram::kGreen : diagram::kRed) << c.yTitle;
+    EXPECT_EQ(graph.series.front().marker, c.crosses ? diagram::kMarkerCross : diagram::kMarkerCircle) << c.yTitle;
+    EXPECT_EQ(graph.leastYMax, c.leastYMax) << c.yTitle;
+    EXPECT_EQ(BothSeriesShown(c.page, scene.choice), c.series.size() == 2) << c.yTitle;
+    std::string names;
+    for (const PlotSeries& s : graph.series) names += (names.empty() ? "" : "|") + s.name;
+    EXPECT_EQ(names, c.names);
+  }
+}
 
 // The warning stands in the axis title when no limit exceeds 1e-6 Hz, or there is no file.
 TEST(UnstableTitle, WarnsInTheAxisTitleWhenNoFileHasALimit) {
-  const char* unstable = "Sorry! In the whole measured region the device is unstable!";
-  const std::pair<std::vector<double>, std::string> cases[] = {
-      {{0, 1e-6}, unstable}, {{0, 2e-6}, "f(k>1) in Hz"}, {{}, unstable}};
-  for (const auto& [fk, title] : cases) {
-    PageScene scene;
-    for (const double limit : fk) scene.results.push_back({.fk = limit});
-    EXPECT_EQ(GraphOf(OutputPage::StabilityLimit, scene).yTitle, title) << fk.size();
-  }
+  const std::string unstable = "Sorry! In the whole measured region the device is unstable!";
+  PageScene scene;
+  scene.results = {{.fk = 0}, {.fk = 1e-6}};
+  EXPECT_EQ(GraphOf(OutputPage::StabilityLimit, scene).yTitle, unstable);
+  scene.results.clear();
+  EXPECT_EQ(GraphOf(OutputPage::StabilityLimit, scene).yTitle, unstable);
 }
 
 // Without a choice the gain page's axis holds MAG in dB and ten times k: 12.3 reads both ways.
 TEST(ReadOut, NamesBothAxesWithTheirUnits) {
   using enum series::XAxisChoice;
-  struct Case {
-    OutputPage page;
-    series::XAxisChoice xAxis;
-    bool density;
-    GraphicChoice choice;
-    double x, y;
-    std::string text;
-  };
-  const Case cases[] = {
+  // page, x axis, density, choice, x, y and the text
+  const std::tuple<OutputPage, series::XAxisChoice, bool, GraphicChoice, double, double, std::string> cases[] = {
       {OutputPage::FtFmax, CurrentIc, false, kAll, 15.18e-3, 28.64e9, "Ic = 15.18 mA, fT, fmax = 28.64 GHz"},
       {OutputPage::FtFmax, CurrentId, false, kFTOnly, 5e-6, 2e9, "Id = 5.00 µA, fT = 2.00 GHz"},
       {OutputPage::StabilityLimit, CurrentIc, true, kAll, 0.0304, 1.5e9, "j = 0.030 mA/µm², f(k>1) = 1.50 GHz"},
       {OutputPage::KMag, FileNumber, true, kAll, 2.6, 12.3, "File Number = 3, MAG/MSG = 12.30 dB, k = 1.230"},
       {OutputPage::KMag, CurrentIc, false, kKOnly, 1e-3, 1.23, "Ic = 1.00 mA, k = 1.230"},
       {OutputPage::KMag, CurrentIc, false, kMagOnly, 1e-3, 12.3, "Ic = 1.00 mA, MAG/MSG = 12.30 dB"}};
-  for (const Case& c : cases) {
+  for (const auto& [page, xAxis, density, choice, x, y, text] : cases) {
     PageScene scene;
-    scene.settings.xAxis = c.xAxis;
-    scene.settings.density = c.density;
-    scene.choice = c.choice;
-    EXPECT_EQ(ReadOutText(c.page, scene, c.x, c.y), c.text);
+    scene.settings.xAxis = xAxis;
+    scene.settings.density = density;
+    scene.choice = choice;
+    EXPECT_EQ(ReadOutText(page, scene, x, y), text);
   }
 }
 
