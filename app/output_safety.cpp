@@ -46,6 +46,12 @@ std::string RefuseOutput(const std::string& path, const std::vector<std::string>
   return {};
 }
 
+std::string CannotWriteOutput(const std::string& path, const numerics::FileWriteOutcome& written) {
+  return "Cannot write " + path + ": " + written.reason +
+         (written.noTemporaryFile ? ". Choose a folder you may write to."
+                                  : ". Nothing was written; check the path and the free space.");
+}
+
 bool StandardOutputWritten(std::ostream& out, std::ostream& err, const std::string& mode, const std::string& what) {
   out.flush();
   if (out) return true;

@@ -6,10 +6,10 @@
 
 #include "diagram/canvas.h"
 #include "numerics/file_reader.h"
+#include "numerics/file_writer.h"
 #include "output_safety.h"
 #include "render_options.h"
 #include "render_output.h"
-#include "atomic_file.h"
 #include "render_views.h"
 #include "series_render.h"
 
@@ -31,9 +31,9 @@ std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, Ren
 
 // The view's curves as its window's "Export Curves as CSV..." writes them.
 std::string WriteCurveTable(const RenderView& view, const RenderInput& input) {
-  std::string error;
-  WriteFileAtomically(input.options.dataPath, view.table(input), error);
-  return error;
+  const std::string& path = input.options.dataPath;
+  const numerics::FileWriteOutcome written = numerics::WriteFileAtomically(path, view.table(input));
+  return written.Ok() ? std::string() : CannotWriteOutput(path, written);
 }
 
 int Fail(std::ostream& err, const std::string& message) {

@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-#include "atomic_file.h"
+#include "numerics/file_writer.h"
 #include "output_safety.h"
 #include "series/check_texts.h"
 #include "series/series_evaluation.h"
@@ -18,10 +18,9 @@ bool WriteTable(const std::string& content, const SeriesOptions& options, std::o
     out << content;
     return StandardOutputWritten(out, err, "netrix --series", "the table");
   }
-  std::string error;
-  if (WriteFileAtomically(*options.outPath, content, error)) return true;
-  err << error << '\n';
-  return false;
+  const numerics::FileWriteOutcome written = numerics::WriteFileAtomically(*options.outPath, content);
+  if (!written.Ok()) err << CannotWriteOutput(*options.outPath, written) << '\n';
+  return written.Ok();
 }
 
 // One line per file; they go to standard output also when the table goes to a file, which stays

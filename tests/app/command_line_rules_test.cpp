@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <cstdlib>
@@ -84,26 +83,6 @@ INSTANTIATE_TEST_SUITE_P(
         RuleCase{"WindowWithoutDisplay", "env -u DISPLAY -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb {netrix} a.s2p", 1,
                  "no display could be reached (DISPLAY is not set)"}),
     [](const testing::TestParamInfo<RuleCase>& info) { return std::string(info.param.name); });
-
-// In every mode a link stays a link and its target gets the output; the target keeps its permissions.
-TEST_F(CommandLineRulesTest, WritesThroughALinkAndKeepsThePermissions) {
-  const fs::perms kept = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
-  const struct {
-    std::string extension;
-    const char* command;
-    const char* head;
-  } outputs[] = {{".spa", "{netrix} --series --out link.spa a.s2p", "Data derived by"},
-                 {".png", "{netrix} --render smith --out link.png a.s2p", "\x89PNG"}};
-  for (const auto& [extension, command, head] : outputs) {
-    Write("target" + extension, "old\n");
-    fs::permissions(Path("target" + extension), kept);
-    fs::create_symlink("target" + extension, Path("link" + extension));
-    ASSERT_EQ(Shell(command), 0) << ReadFile(Path("err.txt"));
-    EXPECT_TRUE(fs::is_symlink(Path("link" + extension)));
-    EXPECT_EQ(ReadFile(Path("target" + extension)).rfind(head, 0), 0U) << extension;
-    EXPECT_EQ(fs::status(Path("target" + extension)).permissions() & fs::perms::all, kept) << extension;
-  }
-}
 
 }  // namespace
 }  // namespace app

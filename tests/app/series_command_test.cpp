@@ -91,18 +91,6 @@ TEST_F(SeriesCommandTest, TakesTheFirstFortyFilesAndRefusesTheNext) {
   EXPECT_EQ(text.find(files[40]), std::string::npos);
 }
 
-TEST_F(SeriesCommandTest, WritesTheOutputFileWhole) {
-  const std::string a = Device("a.s2p");
-  ASSERT_EQ(Series({a}), 0);
-  const std::string expected = out_.str();
-  const std::string target = Path("result.spa");
-  ASSERT_EQ(Series({"--out", target, a}), 0) << err_.str();
-  EXPECT_EQ(ReadFile(target), expected);
-  EXPECT_EQ(FolderEntries(), (std::vector<std::string>{"a.s2p", "result.spa"}));
-  EXPECT_EQ(fs::status(target).permissions() & fs::perms::others_write, fs::perms::none);
-  EXPECT_NE(fs::status(target).permissions() & fs::perms::owner_read, fs::perms::none);
-}
-
 TEST_F(SeriesCommandTest, AFailedRunLeavesTheOutputFileAsItWas) {
   const std::string a = Device("a.s2p");
   const std::string bad = Write("bad.s2p", "! Ic=1m\n1000 0.5 x 1 0 1 0 1 0\n");
