@@ -52,7 +52,7 @@ std::string CannotWriteOutput(const std::string& path, const numerics::FileWrite
                                   : ". Nothing was written; check the path and the free space.");
 }
 
-bool StandardOutputWritten(std::ostream& out, std::ostream& err, const std::string& mode, const std::string& what) {
+bool StandardOutputWritten(std::ostream& out, std::ostream& err, std::string_view mode, const std::string& what) {
   out.flush();
   if (out) return true;
   // The error of the write that failed is still the last one: the modes make no further calls that

@@ -2,6 +2,7 @@
 
 #include <iosfwd>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "numerics/file_writer.h"
@@ -20,6 +21,6 @@ std::string CannotWriteOutput(const std::string& path, const numerics::FileWrite
 
 // Flushes out. When that or an earlier write failed (a full disk, a closed stream), says on err
 // what could not be written and why ("No space left on device"), and returns false.
-bool StandardOutputWritten(std::ostream& out, std::ostream& err, const std::string& mode, const std::string& what);
+bool StandardOutputWritten(std::ostream& out, std::ostream& err, std::string_view mode, const std::string& what);
 
 }  // namespace app
