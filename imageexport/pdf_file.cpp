@@ -1,14 +1,15 @@
 #include "pdf_file.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSizeF>
 
-#include "atomic_file.h"
+#include "picture_files.h"
 
 namespace imageexport {
 namespace {
@@ -18,10 +19,11 @@ constexpr double kPointsPerInch = 72;
 }  // namespace
 
 ExportResult SavePdf(const std::string& path, int width, int height, const std::function<void(QPainter&)>& draw) {
-  QSaveFile file(QString::fromStdString(path));
-  if (ExportResult opened = OpenSaveFile(file); !opened.Ok()) return opened;
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
   {
-    QPdfWriter pdf(&file);
+    QPdfWriter pdf(&buffer);
     pdf.setCreator("netrix");
     pdf.setResolution(kPdfPixelsPerInch);
     const double scale = kPointsPerInch / kPdfPixelsPerInch;
@@ -30,7 +32,7 @@ ExportResult SavePdf(const std::string& path, int width, int height, const std::
     QPainter painter(&pdf);
     draw(painter);
   }
-  return CommitSaveFile(file);
+  return SaveFileBytes(path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
 }  // namespace imageexport
