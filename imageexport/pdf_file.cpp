@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSizeF>
+#include <cassert>
 
 #include "picture_files.h"
 
@@ -21,7 +22,8 @@ constexpr double kPointsPerInch = 72;
 ExportResult SavePdf(const std::string& path, int width, int height, const std::function<void(QPainter&)>& draw) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
+  [[maybe_unused]] const bool opened = buffer.open(QIODevice::WriteOnly);
+  assert(opened);  // a buffer in memory always opens
   {
     QPdfWriter pdf(&buffer);
     pdf.setCreator("netrix");
@@ -32,7 +34,7 @@ ExportResult SavePdf(const std::string& path, int width, int height, const std::
     QPainter painter(&pdf);
     draw(painter);
   }
-  return SaveFileBytes(path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  return SaveFileBytes(path, bytes);
 }
 
 }  // namespace imageexport

@@ -25,10 +25,11 @@ std::string_view AsText(std::span<const unsigned char> bytes) {
 ExportResult SaveThroughQt(const QImage& image, const std::string& path, const char* format) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
+  [[maybe_unused]] const bool opened = buffer.open(QIODevice::WriteOnly);
+  assert(opened);  // a buffer in memory always opens
   QImageWriter writer(&buffer, format);
   if (!writer.write(image)) return {CannotWriteMessage(path, writer.errorString().toStdString())};
-  return SaveFileBytes(path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  return SaveFileBytes(path, bytes);
 }
 
 }  // namespace
@@ -37,6 +38,10 @@ ExportResult SaveFileBytes(const std::string& path, std::string_view bytes) {
   const numerics::FileWriteOutcome written = numerics::WriteFileAtomically(path, bytes);
   if (written.Ok()) return {};
   return {CannotWriteMessage(path, written.reason)};
+}
+
+ExportResult SaveFileBytes(const std::string& path, const QByteArray& bytes) {
+  return SaveFileBytes(path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
 ExportResult SaveBmp(const QImage& image, const std::string& path) { return SaveThroughQt(image, path, "BMP"); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <string>
 #include <string_view>
@@ -13,6 +14,7 @@ namespace imageexport {
 // Writes a file made in memory (a picture, or a graph window's table) in one piece; on failure
 // the message names the picture and the system's reason.
 ExportResult SaveFileBytes(const std::string& path, std::string_view bytes);
+ExportResult SaveFileBytes(const std::string& path, const QByteArray& bytes);
 
 ExportResult SaveBmp(const QImage& image, const std::string& path);
 ExportResult SavePng(const QImage& image, const std::string& path);
