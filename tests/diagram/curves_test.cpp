@@ -10,16 +10,14 @@
 namespace diagram {
 namespace {
 
-using test::ColourAt;
 using test::CountNotWhite;
-using test::Picture;
 
 // 400 x 300 picture, both axes 0 .. 10: frame 48 .. 366 by 27 .. 263.
 class CurveTest : public testing::Test {
  protected:
   CurveTest() { SetupAxes(d_, 400, 300, 10, 0, 10, 0); }
   Diagram d_;
-  Picture picture_{400, 300};
+  test::Picture picture_{400, 300};
 };
 
 TEST_F(CurveTest, APointAboveTheRangeBreaksTheCurveInTwo) {
@@ -27,7 +25,7 @@ TEST_F(CurveTest, APointAboveTheRangeBreaksTheCurveInTwo) {
   DrawCurve(d_, x, y, 5, picture_.canvas());
   const QImage& image = picture_.Finish();
   const int x2 = XToPixel(d_, 2), x4 = XToPixel(d_, 4);
-  EXPECT_EQ(ColourAt(image, (XToPixel(d_, 1) + x2) / 2, YToPixel(d_, 2.5)), kBlack);
+  EXPECT_EQ(test::ColourAt(image, (XToPixel(d_, 1) + x2) / 2, YToPixel(d_, 2.5)), kBlack);
   EXPECT_EQ(CountNotWhite(image, QRect(QPoint(x2 + 1, 0), QPoint(x4 - 1, 299))), 0);
 }
 
@@ -41,17 +39,6 @@ TEST_F(CurveTest, NothingIsDrawnOutsideTheFrame) {
   const QRect frame(QPoint(d_.x.pixMin, d_.y.pixMax), QPoint(d_.x.pixMax, d_.y.pixMin));
   EXPECT_EQ(CountNotWhite(image, image.rect()), CountNotWhite(image, frame));
   EXPECT_GT(CountNotWhite(image, frame), 0);
-}
-
-// A square hangs below its point; the point on the left end of the frame has none.
-TEST_F(CurveTest, MarkersGrowWithThePictureAndSkipTheEdge) {
-  EXPECT_EQ(MarkerSize(d_), 2);  // round((366 + 263) / 500 + 1)
-  const std::vector<double> x = {0, 5}, y = {5, 2};
-  DrawMarkers(d_, x, y, kMarkerSquare, 2, picture_.canvas());
-  const QImage& image = picture_.Finish();
-  const int cx = XToPixel(d_, 5), cy = YToPixel(d_, 2);
-  EXPECT_EQ(CountNotWhite(image, QRect(40, 0, 15, 300)) + CountNotWhite(image, QRect(cx - 3, 0, 7, cy)), 0);
-  EXPECT_EQ(ColourAt(image, cx - 2, cy + 2), kBlack);
 }
 
 // Asked to, the name ends at the curve's first point instead of starting there.

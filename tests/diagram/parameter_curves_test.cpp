@@ -15,8 +15,6 @@ namespace diagram {
 namespace {
 
 using test::CountNotWhite;
-using test::HasColourNear;
-using test::Picture;
 
 TEST(ParameterLabel, LongAndShortForms) {
   EXPECT_EQ(ParameterLabel(kParameterS12, false), ", S12 ");
@@ -42,7 +40,7 @@ class ParameterCurvesTest : public testing::Test {
     }
   }
   bool RedNear(const QImage& image, double re, double im) const {
-    return HasColourNear(image, XToPixel(d_, re), YToPixel(d_, im), 1, kRed);
+    return test::HasColourNear(image, XToPixel(d_, re), YToPixel(d_, im), 1, kRed);
   }
   void Draw(int parameter, const ParameterCurveOptions& options) {
     const LoadedFile file{set_.get(), "dut.s2p", true, kRed};
@@ -50,14 +48,11 @@ class ParameterCurvesTest : public testing::Test {
   }
   Diagram d_;
   std::unique_ptr<numerics::TwoPortDataSet> set_;
-  Picture picture_{768, 576};
+  test::Picture picture_{768, 576};
 };
 
 TEST_F(ParameterCurvesTest, DrawsTheChosenParameterOnlyMagnified) {
-  ParameterCurveOptions options;
-  options.markPoints = false;  // so that the curve itself must pass the measured point
-  options.magnification = 10;
-  Draw(kParameterS12, options);
+  Draw(kParameterS12, {.magnification = 10, .markPoints = false});  // no crosses: the curve passes the points
   const QImage& image = picture_.Finish();
   EXPECT_TRUE(RedNear(image, 0.5, 0));
   EXPECT_TRUE(RedNear(image, 0.5 * std::cos(-0.7), 0.5 * std::sin(-0.7)));  // -40 degrees, a measured point

@@ -21,14 +21,10 @@ std::complex<double> ImpedanceOf(PlanePoint p) {
   return (1.0 + r) / (1.0 - r);
 }
 
-double DistanceFromCentre(const PlaneArc& arc, PlanePoint p) {
-  return std::hypot(p.re - arc.centre.re, p.im - arc.centre.im);
-}
-
 TEST(SmithGeometry, ResistanceArcsAreTheirCirclesUpToTheirReactanceExtent) {
   for (const GridCircle c : kResistanceCircles) {
     const PlaneArc arc = ResistanceArc(c.value, c.extent);
-    EXPECT_NEAR(DistanceFromCentre(arc, {1, 0}), arc.radius, 1e-12);  // every one touches +1
+    EXPECT_NEAR(std::hypot(1 - arc.centre.re, arc.centre.im), arc.radius, 1e-12);  // every one touches +1
     EXPECT_NEAR(arc.radius, 1 / (1 + c.value), 1e-12) << c.value;
     const std::complex<double> start = ImpedanceOf(PointOnArc(arc, 0)), end = ImpedanceOf(ArcEnd(arc));
     EXPECT_NEAR(std::abs(start - std::complex<double>(c.value, c.extent)), 0, 1e-9 * c.extent) << c.value;
@@ -70,9 +66,6 @@ TEST(SmithGeometry, EveryPointOfBothQArcsHasThatQ) {
   }
 }
 
-using test::CountNotWhite;
-using test::HasColourNear;
-using test::Picture;
 
 class SmithChartTest : public testing::Test {
  protected:
@@ -84,11 +77,11 @@ class SmithChartTest : public testing::Test {
   }
   // Whether the colour is near the pixel of a reflection coefficient.
   bool Has(const QImage& image, double re, double im, Colour colour = kGrey) const {
-    return HasColourNear(image, XToPixel(d_, re), YToPixel(d_, im), 1, colour);
+    return test::HasColourNear(image, XToPixel(d_, re), YToPixel(d_, im), 1, colour);
   }
   // The grid of the kind in grey, then the arcs of Q = 1 if asked; the pen is grey again afterwards.
   QImage Draw(ChartKind kind, bool labels, bool qArcs) {
-    Picture picture(768, 576);
+    test::Picture picture(768, 576);
     SetDrawColour(kGrey, picture.canvas());
     DrawSmithGrid(d_, kind, picture.canvas(), labels, 50);
     if (qArcs) DrawQArcs(d_, picture.canvas(), 1);
@@ -106,9 +99,8 @@ TEST_F(SmithChartTest, EachKindDrawsItsUnitCircleInsideTheRim) {
                                                              {ChartKind::Combined, true, kAdmittanceGridColour, true}};
   for (const auto& [kind, resistance, colour, conductance] : cases) {
     const QImage image = Draw(kind, true, false);
-    const double h = std::sqrt(0.5);
-    EXPECT_TRUE(Has(image, -h, -h));      // the rim
-    EXPECT_FALSE(Has(image, -1.1, 0.3));  // outside it
+    EXPECT_TRUE(Has(image, -std::sqrt(0.5), -std::sqrt(0.5)));  // the rim
+    EXPECT_FALSE(Has(image, -1.1, 0.3));                       // outside it
     EXPECT_EQ(Has(image, 0.5, 0.5), resistance);
     EXPECT_EQ(Has(image, -0.5, 0.5, colour), conductance);
   }
@@ -120,7 +112,7 @@ TEST_F(SmithChartTest, QArcsAndAZoomedChartStayInsideTheFrame) {
   Scale(0.5);
   const QImage image = Draw(ChartKind::Combined, false, true);
   const QRect frame(QPoint(d_.x.pixMin, d_.y.pixMax), QPoint(d_.x.pixMax, d_.y.pixMin));
-  EXPECT_EQ(CountNotWhite(image, image.rect()), CountNotWhite(image, frame));
+  EXPECT_EQ(test::CountNotWhite(image, image.rect()), test::CountNotWhite(image, frame));
   EXPECT_TRUE(Has(image, 0, 0));
   EXPECT_TRUE(Has(image, 0, std::sqrt(2.0) - 1, kBlack));
 }
