@@ -85,6 +85,11 @@ QPrinter& TGraphForm::Printer() {
   return *printer_;
 }
 
+void TGraphForm::AddPrinterSetupItem(const char* name) {
+  connect(InsertFileItem(name, QStringLiteral("Printer &Setup")), &QAction::triggered, this,
+          &TGraphForm::PrinterSetupClick);
+}
+
 void TGraphForm::PrinterSetupClick() { controls::SetUpPrinter(this, Printer()); }
 
 void TGraphForm::Print1Click() {
