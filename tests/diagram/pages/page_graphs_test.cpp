@@ -47,12 +47,13 @@ TEST(PageGraphs, RingsTheDoubtfulPoints) {
 }
 
 // A 400 x 300 frame of 0 .. 10 on both axes: columns 48 .. 366, rows 27 .. 263. A box of 60 x 30
-// goes to the top right (302, 31) if free, else the top left (52, 31), bottom right (302, 229), bottom left.
+// goes to the top right (302, 31), else the top left (52, 31), bottom right (302, 229), bottom left.
 TEST(LegendBox, TakesTheCornerFreeOfTextsWithTheFewestPoints) {
   Diagram d;
   SetupAxes(d, 400, 300, 10, 0, 10, 0);
   const std::vector<QRect> titleOnTop = {QRect(40, 20, 340, 20)};
   const std::tuple<std::vector<double>, std::vector<double>, std::vector<QRect>, QPoint> cases[] = {
+      {{}, {}, {}, {302, 31}},
       {{}, {}, titleOnTop, {302, 229}},
       {{9.5, 9, 0.5, 9.5, 0.5}, {9.5, 9, 9.5, 0.5, 0.5}, {}, {52, 31}}};  // two points top right, one elsewhere
   for (const auto& [x, y, texts, corner] : cases) {
