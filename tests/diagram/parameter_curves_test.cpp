@@ -5,7 +5,6 @@
 #include <array>
 #include <cmath>
 #include <memory>
-#include <vector>
 
 #include "diagram/scaling.h"
 #include "diagram/spline.h"
@@ -16,8 +15,6 @@ namespace diagram {
 namespace {
 
 using test::CountNotWhite;
-using test::HasColourNear;
-using test::Picture;
 
 TEST(ParameterLabel, LongAndShortForms) {
   EXPECT_EQ(ParameterLabel(kParameterS12, false), ", S12 ");
@@ -43,7 +40,7 @@ class ParameterCurvesTest : public testing::Test {
     }
   }
   bool RedNear(const QImage& image, double re, double im) const {
-    return HasColourNear(image, XToPixel(d_, re), YToPixel(d_, im), 1, kRed);
+    return test::HasColourNear(image, XToPixel(d_, re), YToPixel(d_, im), 1, kRed);
   }
   void Draw(int parameter, const ParameterCurveOptions& options) {
     const LoadedFile file{set_.get(), "dut.s2p", true, kRed};
@@ -51,14 +48,11 @@ class ParameterCurvesTest : public testing::Test {
   }
   Diagram d_;
   std::unique_ptr<numerics::TwoPortDataSet> set_;
-  Picture picture_{768, 576};
+  test::Picture picture_{768, 576};
 };
 
 TEST_F(ParameterCurvesTest, DrawsTheChosenParameterOnlyMagnified) {
-  ParameterCurveOptions options;
-  options.markPoints = false;  // so that the curve itself must pass the measured point
-  options.magnification = 10;
-  Draw(kParameterS12, options);
+  Draw(kParameterS12, {.magnification = 10, .markPoints = false});  // no crosses: the curve passes the points
   const QImage& image = picture_.Finish();
   EXPECT_TRUE(RedNear(image, 0.5, 0));
   EXPECT_TRUE(RedNear(image, 0.5 * std::cos(-0.7), 0.5 * std::sin(-0.7)));  // -40 degrees, a measured point
@@ -85,34 +79,13 @@ TEST_F(ParameterCurvesTest, UnknownParametersAndHiddenFilesDrawNothing) {
 
 using Samples = std::array<double, kSplineCapacity>;
 
-struct Curve {
-  Samples x{}, y{};
-  int lastIndex = 0;
-};
-
-Curve Make(const std::vector<double>& x, const std::vector<double>& y) {
-  Curve c;
-  std::copy(x.begin(), x.end(), c.x.begin());
-  std::copy(y.begin(), y.end(), c.y.begin());
-  c.lastIndex = static_cast<int>(x.size()) - 1;
-  return c;
-}
-
-TEST(Spline, CutsEveryIntervalIntoMaxPointsDivLastIndexParts) {
-  const struct {
-    const char* name;
-    int lastIndex, maxPoints, expected;
-  } cases[] = {{"three is never splined", 3, 300, 3},
-               {"more than 300 asked", 4, 1000, 300},
-               {"k below two", 200, 300, 200},
-               {"uneven division", 7, 300, 294}};
-  for (const auto& c : cases) {
-    Curve curve;
-    for (int i = 0; i <= c.lastIndex; ++i) curve.x[static_cast<std::size_t>(i)] = i;
-    curve.lastIndex = c.lastIndex;
-    SplineResample(curve.x, curve.y, curve.lastIndex, false, false, c.maxPoints);
-    EXPECT_EQ(curve.lastIndex, c.expected) << c.name;
-    EXPECT_DOUBLE_EQ(curve.x[static_cast<std::size_t>(curve.lastIndex)], c.lastIndex) << c.name;
+// Nothing happens with fewer than five points or fewer than two parts an interval.
+TEST(Spline, LeavesShortOrDenseCurvesAlone) {
+  for (const int lastIndex : {3, 200}) {
+    Samples x{}, y{};
+    int last = lastIndex;
+    SplineResample(x, y, last, false, false, 300);
+    EXPECT_EQ(last, lastIndex);
   }
 }
 
@@ -120,25 +93,25 @@ TEST(Spline, MatchesANaturalSplineWorkedOutByHand) {
   // Knots 0..4 with a single bump at 2. The second derivatives solve
   // 4 M1 + M2 = 6, M1 + 4 M2 + M3 = -12, M2 + 4 M3 = 6: M1 = M3 = 18/7, M2 = -30/7, so
   // S(0.5) = M1 / 48 - 0.5 M1 / 6 = -9/56 and S(1.5) = (M1 + M2) / 48 + 0.5 (1 - (M1 + M2) / 6) = 17/28.
-  Curve c = Make({0, 1, 2, 3, 4}, {0, 0, 1, 0, 0});
-  SplineResample(c.x, c.y, c.lastIndex, false, false, 8);
-  ASSERT_EQ(c.lastIndex, 8);
-  EXPECT_DOUBLE_EQ(c.x[1], 0.5);
-  EXPECT_NEAR(c.y[1], -9.0 / 56, 1e-15);
-  EXPECT_NEAR(c.y[3], 17.0 / 28, 1e-15);
-  EXPECT_EQ(c.y[4], 1);  // the knots stay
+  Samples x{0, 1, 2, 3, 4}, y{0, 0, 1, 0, 0};
+  int last = 4;
+  SplineResample(x, y, last, false, false, 11);
+  ASSERT_EQ(last, 8);  // 11 div 4 = 2 parts an interval
+  EXPECT_DOUBLE_EQ(x[1], 0.5);
+  EXPECT_NEAR(y[1], -9.0 / 56, 1e-15);
+  EXPECT_NEAR(y[3], 17.0 / 28, 1e-15);
+  EXPECT_EQ(y[4], 1);  // the knots stay
 }
 
 // y = log10 x is a straight line in log x, so the spline keeps it, also between uneven knots.
+// More than 300 points asked count as 300: 75 parts an interval.
 TEST(Spline, LogXSpacesTheNewPointsGeometrically) {
-  Curve c = Make({1e6, 1e7, 1e9, 1e10, 1e12}, {6, 7, 9, 10, 12});
-  SplineResample(c.x, c.y, c.lastIndex, true, false, 20);
-  ASSERT_EQ(c.lastIndex, 20);
-  EXPECT_NEAR(c.x[1], 1e6 * std::pow(10.0, 0.2), 1e-3);
-  for (int i = 0; i <= 20; ++i) {
-    const auto k = static_cast<std::size_t>(i);
-    EXPECT_NEAR(c.y[k], std::log10(c.x[k]), 1e-9) << i;
-  }
+  Samples x{1e6, 1e7, 1e9, 1e10, 1e12}, y{6, 7, 9, 10, 12};
+  int last = 4;
+  SplineResample(x, y, last, true, false, 1000);
+  ASSERT_EQ(last, 300);
+  EXPECT_NEAR(x[1], 1e6 * std::pow(10.0, 1.0 / 75), 1e-3);
+  for (std::size_t i = 0; i <= 300; ++i) EXPECT_NEAR(y[i], std::log10(x[i]), 1e-9) << i;
 }
 
 }  // namespace

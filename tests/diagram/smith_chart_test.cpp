@@ -4,7 +4,7 @@
 
 #include <cmath>
 #include <complex>
-#include <utility>
+#include <tuple>
 
 #include "diagram/axes.h"
 #include "diagram/scaling.h"
@@ -21,14 +21,10 @@ std::complex<double> ImpedanceOf(PlanePoint p) {
   return (1.0 + r) / (1.0 - r);
 }
 
-double DistanceFromCentre(const PlaneArc& arc, PlanePoint p) {
-  return std::hypot(p.re - arc.centre.re, p.im - arc.centre.im);
-}
-
 TEST(SmithGeometry, ResistanceArcsAreTheirCirclesUpToTheirReactanceExtent) {
   for (const GridCircle c : kResistanceCircles) {
     const PlaneArc arc = ResistanceArc(c.value, c.extent);
-    EXPECT_NEAR(DistanceFromCentre(arc, {1, 0}), arc.radius, 1e-12);  // every one touches +1
+    EXPECT_NEAR(std::hypot(1 - arc.centre.re, arc.centre.im), arc.radius, 1e-12);  // every one touches +1
     EXPECT_NEAR(arc.radius, 1 / (1 + c.value), 1e-12) << c.value;
     const std::complex<double> start = ImpedanceOf(PointOnArc(arc, 0)), end = ImpedanceOf(ArcEnd(arc));
     EXPECT_NEAR(std::abs(start - std::complex<double>(c.value, c.extent)), 0, 1e-9 * c.extent) << c.value;
@@ -70,9 +66,6 @@ TEST(SmithGeometry, EveryPointOfBothQArcsHasThatQ) {
   }
 }
 
-using test::CountNotWhite;
-using test::HasColourNear;
-using test::Picture;
 
 class SmithChartTest : public testing::Test {
  protected:
@@ -83,59 +76,45 @@ class SmithChartTest : public testing::Test {
     SetAxisCrossing(d_, 0, 0);
   }
   // Whether the colour is near the pixel of a reflection coefficient.
-  bool Has(const QImage& image, double re, double im, Colour colour = kGrey, int radius = 1) const {
-    return HasColourNear(image, XToPixel(d_, re), YToPixel(d_, im), radius, colour);
+  bool Has(const QImage& image, double re, double im, Colour colour = kGrey) const {
+    return test::HasColourNear(image, XToPixel(d_, re), YToPixel(d_, im), 1, colour);
   }
-  void DrawGrid(ChartKind kind, bool labels = false) {
-    SetDrawColour(kGrey, picture_.canvas());
-    DrawSmithGrid(d_, kind, picture_.canvas(), labels, 50);
+  // The grid of the kind in grey, then the arcs of Q = 1 if asked; the pen is grey again afterwards.
+  QImage Draw(ChartKind kind, bool labels, bool qArcs) {
+    test::Picture picture(768, 576);
+    SetDrawColour(kGrey, picture.canvas());
+    DrawSmithGrid(d_, kind, picture.canvas(), labels, 50);
+    if (qArcs) DrawQArcs(d_, picture.canvas(), 1);
+    EXPECT_EQ(picture.canvas().PenColour(), kGrey);
+    return picture.Finish();
   }
   Diagram d_;
-  Picture picture_{768, 576};
 };
 
-// The impedance chart's unit resistance circle has its top at 0.5 + 0.5j; the admittance
-// chart's unit conductance circle is its mirror image.
-class SmithGridKindTest : public SmithChartTest, public testing::WithParamInterface<std::pair<ChartKind, double>> {};
-
-TEST_P(SmithGridKindTest, RimAndUnitCircleOnTheSideOfTheKind) {
-  DrawGrid(GetParam().first);
-  const QImage& image = picture_.Finish();
-  const double h = std::sqrt(0.5), side = GetParam().second;
-  EXPECT_TRUE(Has(image, -h, -h));  // the rim
-  EXPECT_TRUE(Has(image, side, -0.5));
-  EXPECT_FALSE(Has(image, -1.1, 0.3));   // outside the rim
-  EXPECT_FALSE(Has(image, -side, 0.5));  // the other kind's circle
+// The impedance chart's unit resistance circle has its top at 0.5 + 0.5j, the admittance chart's
+// unit conductance circle is its mirror image; the combined chart draws the latter in its own colour.
+TEST_F(SmithChartTest, EachKindDrawsItsUnitCircleInsideTheRim) {
+  const std::tuple<ChartKind, bool, Colour, bool> cases[] = {{ChartKind::Impedance, true, kGrey, false},
+                                                             {ChartKind::Admittance, false, kGrey, true},
+                                                             {ChartKind::Combined, true, kAdmittanceGridColour, true}};
+  for (const auto& [kind, resistance, colour, conductance] : cases) {
+    const QImage image = Draw(kind, true, false);
+    EXPECT_TRUE(Has(image, -std::sqrt(0.5), -std::sqrt(0.5)));  // the rim
+    EXPECT_FALSE(Has(image, -1.1, 0.3));                       // outside it
+    EXPECT_EQ(Has(image, 0.5, 0.5), resistance);
+    EXPECT_EQ(Has(image, -0.5, 0.5, colour), conductance);
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, SmithGridKindTest,
-                         testing::Values(std::pair{ChartKind::Impedance, 0.5}, std::pair{ChartKind::Admittance, -0.5}));
-
-TEST_F(SmithChartTest, TheCombinedChartDrawsTheAdmittanceGridInItsOwnColour) {
-  DrawGrid(ChartKind::Combined, true);
-  EXPECT_EQ(picture_.canvas().PenColour(), kGrey);
-  const QImage& image = picture_.Finish();
-  EXPECT_TRUE(Has(image, 0.5, 0.5));
-  EXPECT_TRUE(Has(image, -0.5, 0.5, kAdmittanceGridColour));
-}
-
-TEST_F(SmithChartTest, AZoomedChartStaysInsideTheFrame) {
-  Scale(0.4);
-  DrawGrid(ChartKind::Combined);
-  DrawQArcs(d_, picture_.canvas(), 1);
-  const QImage& image = picture_.Finish();
+// Zoomed in, the grid and the arcs of Q = 1, which cross the imaginary axis at s = sqrt(2) - 1,
+// stay inside the frame.
+TEST_F(SmithChartTest, QArcsAndAZoomedChartStayInsideTheFrame) {
+  Scale(0.5);
+  const QImage image = Draw(ChartKind::Combined, false, true);
   const QRect frame(QPoint(d_.x.pixMin, d_.y.pixMax), QPoint(d_.x.pixMax, d_.y.pixMin));
-  EXPECT_EQ(CountNotWhite(image, image.rect()), CountNotWhite(image, frame));
+  EXPECT_EQ(test::CountNotWhite(image, image.rect()), test::CountNotWhite(image, frame));
   EXPECT_TRUE(Has(image, 0, 0));
-}
-
-TEST_F(SmithChartTest, QArcsCrossTheImaginaryAxisAtS) {
-  picture_.canvas().SetPenColour(kGrey);
-  DrawQArcs(d_, picture_.canvas(), 1);
-  EXPECT_EQ(picture_.canvas().PenColour(), kGrey);
-  const QImage& image = picture_.Finish();
   EXPECT_TRUE(Has(image, 0, std::sqrt(2.0) - 1, kBlack));
-  EXPECT_FALSE(Has(image, 0, 0.5, kBlack, 2));
 }
 
 TEST(SmithChart, EightPointLabelsOnlyForLargePictures) {
