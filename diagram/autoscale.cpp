@@ -21,7 +21,7 @@ bool TakeExtremes(const Diagram& d, std::span<const double> values, int count, A
   assert(count >= 0 && static_cast<std::size_t>(count) <= values.size());
   double low = std::numeric_limits<double>::infinity();
   double high = -low;
-  for (int i = std::max(d.firstIndex, 0); i < count; ++i) {
+  for (int i = 0; i < count; ++i) {
     const double v = values[static_cast<std::size_t>(i)];
     if (v < low) low = v;
     if (v > high) high = v;

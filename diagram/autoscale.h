@@ -5,8 +5,8 @@
 #include "diagram_state.h"
 
 // Axis limits, crossing and grid step from the data, rounded to round numbers. Both scan the
-// values from the state's firstIndex up to count - 1; values is the whole array (its size is
-// the capacity) and count the number of valid values. Data without any finite value change
+// first count values; values is the whole array (its size is the capacity) and count the number
+// of valid values. Data without any finite value change
 // nothing.
 namespace diagram {
 

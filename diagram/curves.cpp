@@ -55,13 +55,13 @@ int MarkerSize(const Diagram& d) { return static_cast<int>(std::nearbyint((d.x.p
 
 void DrawCurve(const Diagram& d, std::span<const double> x, std::span<const double> y, int count, Canvas& canvas) {
   assert(ArraysHold(x, y, count));
-  if (count <= d.firstIndex) return;
+  if (count == 0) return;
   const PenStyle saved = canvas.CurrentPenStyle();
   canvas.SetPenStyle(PenStyle::Solid);
-  Pixel p = PixelOf(d, x, y, d.firstIndex);
+  Pixel p = PixelOf(d, x, y, 0);
   bool previousInside = IsStrictlyInside(d, p.column, p.row);
   canvas.MoveTo(p.column, p.row);
-  for (int i = d.firstIndex + 1; i < count; ++i) {
+  for (int i = 1; i < count; ++i) {
     p = PixelOf(d, x, y, i);
     const bool inside = IsStrictlyInside(d, p.column, p.row);
     if (inside && previousInside) {
@@ -82,7 +82,7 @@ void DrawMarkers(const Diagram& d, std::span<const double> x, std::span<const do
   const BrushStyle savedBrush = canvas.CurrentBrushStyle();
   canvas.SetPenStyle(PenStyle::Solid);
   canvas.SetBrushStyle(BrushStyle::Clear);
-  for (int i = d.firstIndex; i < count; ++i) {
+  for (int i = 0; i < count; ++i) {
     const Pixel p = PixelOf(d, x, y, i);
     if (IsStrictlyInside(d, p.column, p.row)) DrawMarker(canvas, kind, p.column, p.row, s);
   }
@@ -93,8 +93,8 @@ void DrawMarkers(const Diagram& d, std::span<const double> x, std::span<const do
 void DrawCurveWithText(const Diagram& d, std::span<const double> x, std::span<const double> y, bool textLeft,
                        int count, Canvas& canvas, std::string_view text) {
   DrawCurve(d, x, y, count, canvas);
-  if (count <= d.firstIndex) return;
-  const Pixel p = PixelOf(d, x, y, d.firstIndex);
+  if (count == 0) return;
+  const Pixel p = PixelOf(d, x, y, 0);
   WriteCurveName(canvas, p.column, p.row, textLeft, text);
 }
 

@@ -7,8 +7,8 @@
 #include "canvas.h"
 #include "diagram_state.h"
 
-// Curves through two parallel arrays (x and y values) in the frame of the diagram, from the
-// state's firstIndex up to count - 1. Polar diagrams and the Smith chart pass the real parts
+// Curves through the first count points of two parallel arrays (x and y values) in the frame of
+// the diagram. Polar diagrams and the Smith chart pass the real parts
 // as x and the imaginary parts as y.
 namespace diagram {
 

@@ -25,11 +25,10 @@ struct Axis {
 
 struct Diagram {
   Axis x, y;
-  int firstIndex = 0;         // first array index that autoscaling and the curves look at
   int width = 0, height = 0;  // picture size when SetupAxes ran
 };
 
-// The program-wide state that the argument-free entry points use.
+// The program-wide state that the series pages draw with.
 Diagram& CurrentDiagram();
 
 }  // namespace diagram

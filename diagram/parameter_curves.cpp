@@ -80,10 +80,8 @@ std::string ParameterLabel(int parameterIndex, bool shortForm) {
 void DrawParameterCurves(const Diagram& d, Canvas& canvas, std::span<const LoadedFile> files, int parameterIndex,
                          const ParameterCurveOptions& options) {
   if (ParameterLabel(parameterIndex, false).empty()) return;
-  Diagram fromStart = d;  // the loci are built from index 0
-  fromStart.firstIndex = 0;
   for (const LoadedFile& file : files) {
-    if (file.show && file.set != nullptr) DrawFile(fromStart, canvas, file, parameterIndex, options);
+    if (file.show && file.set != nullptr) DrawFile(d, canvas, file, parameterIndex, options);
   }
 }
 

@@ -7,7 +7,7 @@
 
 #include "diagram/autoscale.h"
 #include "diagram/axes.h"
-#include "diagram/current.h"
+#include "diagram/axis_labels.h"
 #include "diagram/curves.h"
 #include "diagram/frame.h"
 #include "diagram/scaling.h"
@@ -78,13 +78,13 @@ void DrawPageGraph(const PageGraph& graph, bool connect, Canvas& c) {
   const int count = static_cast<int>(graph.x.size());
   for (const PlotSeries& s : graph.series) {
     diagram::SetDrawColour(s.colour, c);
-    diagram::DrawMarkers(graph.x, s.y, s.marker, count, c);
-    if (connect) diagram::DrawCurve(graph.x, s.y, count, c);
+    diagram::DrawMarkers(d, graph.x, s.y, s.marker, count, c);
+    if (connect) diagram::DrawCurve(d, graph.x, s.y, count, c);
   }
   const bool ringed = DrawRings(d, graph, c);
   diagram::SetDrawColour(diagram::kBlack, c);
-  diagram::DrawXTitle(graph.xTitle, false, c);
-  diagram::DrawYTitle(graph.yTitle, c);
+  diagram::DrawXTitle(d, graph.xTitle, false, c);
+  diagram::DrawYTitle(d, graph.yTitle, c);
   DrawLegend(d, graph, ringed, c);
 }
 

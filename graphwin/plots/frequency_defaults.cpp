@@ -19,7 +19,6 @@ void SetFrequencyDefaults(diagram::Diagram& d, double highestFrequency, const Fr
   d.x.cross = d.x.min;
   d.y.cross = 0;
   d.x.labelEvery = d.y.labelEvery = defaults.labelEvery;
-  d.firstIndex = 0;
 }
 
 }  // namespace graphwin::plots

@@ -243,7 +243,6 @@ SParameterPlot BuildSParameterPlot(const GraphInputs& inputs, SWindow window, co
 }
 
 void SetViewDefaults(diagram::Diagram& d, const SParameterPlot& plot) {
-  d.firstIndex = 0;
   d.x.labelEvery = d.y.labelEvery = kLabelEvery;
   if (plot.view == SView::Smith) {
     SetRoundRange(d, AxisMode::Smith, kSmithLimit);

@@ -3,7 +3,7 @@
 #include <tuple>
 
 #include "../picture.h"
-#include "diagram/current.h"
+#include "diagram/diagram_state.h"
 #include "diagram/curves.h"
 #include "diagram/pages/graph_legend.h"
 #include "diagram/pages/page_graphs.h"
