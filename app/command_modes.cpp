@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "figures_command.h"
+#include "named_table.h"
 #include "series_command.h"
 
 namespace app {
@@ -76,8 +77,8 @@ std::string UsageText() {
 
 int RunHeadlessMode(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
   if (args.empty() || args.front() == kRenderOption) return kNotHeadless;
-  for (const HeadlessMode& mode : kModes) {
-    if (args.front() == mode.option) return mode.run({args.begin() + 1, args.end()}, out, err);
+  if (const HeadlessMode* mode = FindByName(kModes, args.front(), &HeadlessMode::option)) {
+    return mode->run({args.begin() + 1, args.end()}, out, err);
   }
   // Anything else is the window; its arguments are file names, so only an unknown option is refused.
   if (args.front().rfind("--", 0) == 0) {

@@ -46,7 +46,13 @@ std::string RefuseOutput(const std::string& path, const std::vector<std::string>
   return {};
 }
 
-bool StandardOutputWritten(std::ostream& out, std::ostream& err, const std::string& mode, const std::string& what) {
+std::string CannotWriteOutput(const std::string& path, const numerics::FileWriteOutcome& written) {
+  return "Cannot write " + path + ": " + written.reason +
+         (written.noTemporaryFile ? ". Choose a folder you may write to."
+                                  : ". Nothing was written; check the path and the free space.");
+}
+
+bool StandardOutputWritten(std::ostream& out, std::ostream& err, std::string_view mode, const std::string& what) {
   out.flush();
   if (out) return true;
   // The error of the write that failed is still the last one: the modes make no further calls that

@@ -4,12 +4,13 @@
 #include <memory>
 #include <ostream>
 
+#include "command_failure.h"
 #include "diagram/canvas.h"
 #include "numerics/file_reader.h"
+#include "numerics/file_writer.h"
 #include "output_safety.h"
 #include "render_options.h"
 #include "render_output.h"
-#include "atomic_file.h"
 #include "render_views.h"
 #include "series_render.h"
 
@@ -31,14 +32,9 @@ std::string LoadFiles(const RenderOptions& o, numerics::DataSetStore& store, Ren
 
 // The view's curves as its window's "Export Curves as CSV..." writes them.
 std::string WriteCurveTable(const RenderView& view, const RenderInput& input) {
-  std::string error;
-  WriteFileAtomically(input.options.dataPath, view.table(input), error);
-  return error;
-}
-
-int Fail(std::ostream& err, const std::string& message) {
-  err << "netrix --render: " << message << '\n';
-  return 1;
+  const std::string& path = input.options.dataPath;
+  const numerics::FileWriteOutcome written = numerics::WriteFileAtomically(path, view.table(input));
+  return written.Ok() ? std::string() : CannotWriteOutput(path, written);
 }
 
 }  // namespace
@@ -48,32 +44,34 @@ int RunRenderCommand(const std::vector<std::string>& args, std::ostream&, std::o
     return RunSeriesRender(*series, {args.begin() + 1, args.end()}, err);
   }
   const ParsedRenderOptions parsed = ParseRenderOptions(args);
-  if (!parsed.error.empty()) return Fail(err, parsed.error);
+  if (!parsed.error.empty()) return Fail(err, kRenderMode, parsed.error);
   const RenderOptions& o = parsed.options;
   const RenderView* view = FindRenderView(o.view);
   if (view == nullptr) {
-    return Fail(err, "unknown view \"" + o.view + "\"; use " + RenderViewNames() + " for S-parameter files, or " +
-                         SeriesViewNames() + " for a bias series");
+    return Fail(err, kRenderMode,
+                "unknown view \"" + o.view + "\"; use " + RenderViewNames() + " for S-parameter files, or " +
+                    SeriesViewNames() + " for a bias series");
   }
   const PictureFormat* format = FindPictureFormat(o.outPath);
-  if (format == nullptr) {
-    return Fail(err, "cannot tell the picture format of \"" + o.outPath + "\"; end the name in " + PictureExtensions());
-  }
+  if (format == nullptr) return Fail(err, kRenderMode, UnknownPictureFormat(o.outPath));
   for (const std::string* output : {&o.outPath, &o.dataPath}) {
     if (output->empty()) continue;
-    if (const std::string refused = RefuseOutput(*output, o.files); !refused.empty()) return Fail(err, refused);
+    const std::string refused = RefuseOutput(*output, o.files);
+    if (!refused.empty()) return Fail(err, kRenderMode, refused);
   }
   const auto store = std::make_unique<numerics::DataSetStore>();
   RenderInput input{o, {}};
-  if (const std::string failed = LoadFiles(o, *store, input, err); !failed.empty()) return Fail(err, failed);
+  const std::string failed = LoadFiles(o, *store, input, err);
+  if (!failed.empty()) return Fail(err, kRenderMode, failed);
   const GuiSession session;
   const imageexport::ExportResult written = format->write(o.outPath, o.width, o.height, [&](QPainter& painter) {
     diagram::Canvas canvas(painter, o.width, o.height);
     view->draw(input, canvas);
   });
-  if (!written.Ok()) return Fail(err, written.error);
+  if (!written.Ok()) return Fail(err, kRenderMode, written.error);
   if (!o.dataPath.empty()) {
-    if (const std::string error = WriteCurveTable(*view, input); !error.empty()) return Fail(err, error);
+    const std::string error = WriteCurveTable(*view, input);
+    if (!error.empty()) return Fail(err, kRenderMode, error);
   }
   return 0;
 }

@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <iterator>
 #include <string_view>
-#include <utility>
 
 #include "numerics/prefixed_number.h"
 #include "graphwin/plots/q_table.h"
+#include "named_table.h"
 #include "touchstone_option.h"
 
 namespace app {
@@ -32,16 +32,17 @@ std::string ParseQ(const std::string& text, RenderOptions& o) {
 }
 
 std::string ParseSParameterMode(const std::string& text, RenderOptions& o) {
-  static constexpr std::pair<const char*, SView> kModes[] = {{"smith", SView::Smith},     {"polar", SView::Polar},
-                                                             {"cartesian", SView::Cartesian}, {"mag", SView::Magnitude},
-                                                             {"db", SView::Decibels},    {"phase", SView::Phase}};
-  for (const auto& [name, view] : kModes) {
-    if (text == name) {
-      o.mode = view;
-      return {};
-    }
-  }
-  return "--mode takes smith, polar, cartesian, mag, db or phase, not \"" + text + "\"";
+  struct ModeName {
+    const char* name;
+    SView view;
+  };
+  static constexpr ModeName kModes[] = {{"smith", SView::Smith},         {"polar", SView::Polar},
+                                        {"cartesian", SView::Cartesian}, {"mag", SView::Magnitude},
+                                        {"db", SView::Decibels},         {"phase", SView::Phase}};
+  const ModeName* mode = FindByName(kModes, text);
+  if (mode == nullptr) return "--mode takes " + NameList(kModes, " or ") + ", not \"" + text + "\"";
+  o.mode = mode->view;
+  return {};
 }
 
 // A number with a unit prefix, such as 2.4G.
@@ -72,14 +73,6 @@ constexpr CurveName<ImpedanceChoice> kImpedanceCurves[] = {{"port1", &ImpedanceC
                                                            {"image", &ImpedanceChoice::image},
                                                            {"sym", &ImpedanceChoice::sym}};
 
-// "a, b and c".
-template <typename Choice, std::size_t N>
-std::string NameList(const CurveName<Choice> (&names)[N]) {
-  std::string list;
-  for (std::size_t i = 0; i < N; ++i) list += std::string(i == 0 ? "" : i + 1 == N ? " and " : ", ") + names[i].name;
-  return list;
-}
-
 // The named curves only; an unknown name is the error.
 template <typename Choice, std::size_t N>
 std::string ParseNames(const std::string& text, const CurveName<Choice> (&names)[N], Choice& choice) {
@@ -89,9 +82,9 @@ std::string ParseNames(const std::string& text, const CurveName<Choice> (&names)
   do {
     const std::size_t comma = text.find(',', start);
     const std::string word = text.substr(start, comma == std::string::npos ? std::string::npos : comma - start);
-    const auto found = std::find_if(std::begin(names), std::end(names), [&](const auto& n) { return word == n.name; });
-    if (found == std::end(names)) {
-      return "--curves takes " + NameList(names) + " joined by commas, not \"" + text + "\"";
+    const CurveName<Choice>* found = FindByName(names, word);
+    if (found == nullptr) {
+      return "--curves takes " + NameList(names, " and ") + " joined by commas, not \"" + text + "\"";
     }
     chosen.*found->box = true;
     start = comma == std::string::npos ? comma : comma + 1;

@@ -6,10 +6,10 @@
 #include <algorithm>
 #include <cassert>
 #include <cctype>
-#include <iterator>
 
 #include "imageexport/pdf_file.h"
 #include "imageexport/picture_files.h"
+#include "named_table.h"
 
 namespace app {
 namespace {
@@ -47,21 +47,16 @@ std::string LowerCase(std::string_view text) {
 
 }  // namespace
 
+// A name that is nothing but the extension names no picture.
 const PictureFormat* FindPictureFormat(std::string_view path) {
-  const std::string lower = LowerCase(path);
-  const auto found = std::find_if(std::begin(kFormats), std::end(kFormats), [&](const PictureFormat& f) {
-    return lower.ends_with(f.extension) && lower.size() > std::char_traits<char>::length(f.extension);
-  });
-  return found == std::end(kFormats) ? nullptr : found;
+  const std::size_t dot = path.rfind('.');
+  if (dot == 0 || dot == std::string_view::npos) return nullptr;
+  return FindByName(kFormats, LowerCase(path.substr(dot)), &PictureFormat::extension);
 }
 
-std::string PictureExtensions() {
-  std::string list;
-  for (std::size_t i = 0; i < std::size(kFormats); ++i) {
-    list += i == 0 ? "" : (i + 1 == std::size(kFormats) ? " or " : ", ");
-    list += kFormats[i].extension;
-  }
-  return list;
+std::string UnknownPictureFormat(const std::string& path) {
+  return "cannot tell the picture format of \"" + path + "\"; end the name in " +
+         NameList(kFormats, " or ", &PictureFormat::extension);
 }
 
 GuiSession::GuiSession() {

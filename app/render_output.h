@@ -22,8 +22,8 @@ struct PictureFormat {
 
 // nullptr when the path's extension names no format (compared without regard to case).
 const PictureFormat* FindPictureFormat(std::string_view path);
-// ".png, .bmp, .jpg, .gif or .pdf", for messages.
-std::string PictureExtensions();
+// The message for a path whose extension names no format; it lists the extensions.
+std::string UnknownPictureFormat(const std::string& path);
 
 // Text needs a GUI application: the session makes one for the render mode, on the offscreen
 // platform unless the environment asks for another, so that no display is needed. Where the

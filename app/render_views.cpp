@@ -1,10 +1,8 @@
 #include "render_views.h"
 
-#include <algorithm>
-#include <iterator>
-
 #include "frequency_views.h"
 #include "graphwin/plots/curve_table.h"
+#include "named_table.h"
 #include "sparameter_view.h"
 
 namespace app {
@@ -37,18 +35,8 @@ constexpr RenderView kViews[] = {
 
 }  // namespace
 
-const RenderView* FindRenderView(std::string_view name) {
-  const auto found = std::find_if(std::begin(kViews), std::end(kViews), [&](const RenderView& v) { return name == v.name; });
-  return found == std::end(kViews) ? nullptr : found;
-}
+const RenderView* FindRenderView(std::string_view name) { return FindByName(kViews, name); }
 
-std::string RenderViewNames() {
-  std::string names;
-  for (std::size_t i = 0; i < std::size(kViews); ++i) {
-    names += i == 0 ? "" : (i + 1 == std::size(kViews) ? " or " : ", ");
-    names += kViews[i].name;
-  }
-  return names;
-}
+std::string RenderViewNames() { return NameList(kViews, " or "); }
 
 }  // namespace app

@@ -2,7 +2,8 @@
 
 #include <ostream>
 
-#include "atomic_file.h"
+#include "command_failure.h"
+#include "numerics/file_writer.h"
 #include "output_safety.h"
 #include "series/check_texts.h"
 #include "series/series_evaluation.h"
@@ -16,12 +17,11 @@ namespace {
 bool WriteTable(const std::string& content, const SeriesOptions& options, std::ostream& out, std::ostream& err) {
   if (!options.outPath) {
     out << content;
-    return StandardOutputWritten(out, err, "netrix --series", "the table");
+    return StandardOutputWritten(out, err, kSeriesMode, "the table");
   }
-  std::string error;
-  if (WriteFileAtomically(*options.outPath, content, error)) return true;
-  err << error << '\n';
-  return false;
+  const numerics::FileWriteOutcome written = numerics::WriteFileAtomically(*options.outPath, content);
+  if (!written.Ok()) err << CannotWriteOutput(*options.outPath, written) << '\n';
+  return written.Ok();
 }
 
 // One line per file; they go to standard output also when the table goes to a file, which stays
@@ -29,7 +29,7 @@ bool WriteTable(const std::string& content, const SeriesOptions& options, std::o
 bool WriteChecks(const series::SeriesList& list, const series::SeriesArrays& arrays, std::ostream& out,
                  std::ostream& err) {
   for (std::size_t i = 0; i < arrays.size(); ++i) out << series::CheckLineText(list.Path(i), arrays[i]) << '\n';
-  return StandardOutputWritten(out, err, "netrix --series", "the checks");
+  return StandardOutputWritten(out, err, kSeriesMode, "the checks");
 }
 
 }  // namespace
@@ -44,14 +44,10 @@ series::SeriesList MakeSeries(const std::vector<std::string>& files, std::ostrea
 int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
   SeriesOptions options;
   std::string error;
-  if (!ParseSeriesOptions(args, options, error)) {
-    err << "netrix --series: " << error << '\n';
-    return 1;
-  }
+  if (!ParseSeriesOptions(args, options, error)) return Fail(err, kSeriesMode, error);
   if (options.outPath) {
     if (const std::string refused = RefuseOutput(*options.outPath, options.files); !refused.empty()) {
-      err << "netrix --series: " << refused << '\n';
-      return 1;
+      return Fail(err, kSeriesMode, refused);
     }
   }
   const series::SeriesList list = MakeSeries(options.files, err);
@@ -61,7 +57,7 @@ int RunSeriesCommand(const std::vector<std::string>& args, std::ostream& out, st
   if (!evaluation.completed) return 1;
   for (std::size_t i = 0; i < arrays.size(); ++i) {
     const std::string warning = series::NonFiniteWarning(list.Path(i), arrays[i]);
-    if (!warning.empty()) err << "netrix --series: " << warning << '\n';
+    if (!warning.empty()) err << kSeriesMode << ": " << warning << '\n';
   }
   if (!WriteTable(series::SpaContent(list, arrays, options.settings), options, out, err)) return 1;
   return !options.checks || WriteChecks(list, arrays, out, err) ? 0 : 1;

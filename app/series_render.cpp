@@ -1,15 +1,15 @@
 #include "series_render.h"
 
 #include <QPainter>
-#include <algorithm>
-#include <iterator>
 #include <ostream>
 
+#include "command_failure.h"
 #include "diagram/canvas.h"
 #include "series/series_evaluation.h"
 #include "diagram/pages/page_graphs.h"
 #include "output_safety.h"
 #include "render_options.h"
+#include "named_table.h"
 #include "render_output.h"
 #include "series_command.h"
 #include "series_options.h"
@@ -52,37 +52,20 @@ std::string ParseSeriesRenderOptions(const std::vector<std::string>& args, Serie
   return {};
 }
 
-int Fail(std::ostream& err, const std::string& message) {
-  err << "netrix --render: " << message << '\n';
-  return 1;
-}
-
 }  // namespace
 
-const SeriesView* FindSeriesView(std::string_view name) {
-  const auto found = std::find_if(std::begin(kSeriesViews), std::end(kSeriesViews),
-                                  [&](const SeriesView& v) { return name == v.name; });
-  return found == std::end(kSeriesViews) ? nullptr : found;
-}
+const SeriesView* FindSeriesView(std::string_view name) { return FindByName(kSeriesViews, name); }
 
-std::string SeriesViewNames() {
-  std::string names;
-  for (std::size_t i = 0; i < std::size(kSeriesViews); ++i) {
-    names += i == 0 ? "" : (i + 1 == std::size(kSeriesViews) ? " or " : ", ");
-    names += kSeriesViews[i].name;
-  }
-  return names;
-}
+std::string SeriesViewNames() { return NameList(kSeriesViews, " or "); }
 
 int RunSeriesRender(const SeriesView& view, const std::vector<std::string>& args, std::ostream& err) {
   SeriesRenderOptions o;
-  if (const std::string error = ParseSeriesRenderOptions(args, o); !error.empty()) return Fail(err, error);
+  if (const std::string error = ParseSeriesRenderOptions(args, o); !error.empty()) return Fail(err, kRenderMode, error);
   const std::string& outPath = *o.series.outPath;
   const PictureFormat* format = FindPictureFormat(outPath);
-  if (format == nullptr) {
-    return Fail(err, "cannot tell the picture format of \"" + outPath + "\"; end the name in " + PictureExtensions());
-  }
-  if (const std::string refused = RefuseOutput(outPath, o.series.files); !refused.empty()) return Fail(err, refused);
+  if (format == nullptr) return Fail(err, kRenderMode, UnknownPictureFormat(outPath));
+  const std::string refused = RefuseOutput(outPath, o.series.files);
+  if (!refused.empty()) return Fail(err, kRenderMode, refused);
   const series::SeriesList list = MakeSeries(o.series.files, err);
   diagram::pages::PageScene scene{{}, o.series.settings, o.connect, {}};
   const series::SeriesEvaluation evaluation = series::EvaluateSeries(list, scene.settings, scene.results);
@@ -93,7 +76,7 @@ int RunSeriesRender(const SeriesView& view, const std::vector<std::string>& args
     diagram::Canvas canvas(painter, o.width, o.height);
     diagram::pages::RoutineOf(view.page)(scene, canvas);
   });
-  if (!written.Ok()) return Fail(err, written.error);
+  if (!written.Ok()) return Fail(err, kRenderMode, written.error);
   return 0;
 }
 

@@ -16,10 +16,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "controls/dialog_hooks.h"
@@ -30,31 +27,16 @@
 #include "mainwin/main_window.h"
 #include "numerics/data_set.h"
 
+#include "synthetic_files.h"
+
 namespace {
 
 constexpr int kFiles = 4;
 
 // Four files of 253 points, 100 MHz to 12.7 GHz, written once.
 QStringList FourFiles() {
-  static const QStringList files = [] {
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "netrix_bench_graphwin";
-    std::filesystem::create_directories(folder);
-    QStringList paths;
-    for (int file = 1; file <= kFiles; ++file) {
-      const std::filesystem::path path = folder / ("device_" + std::to_string(file) + ".s2p");
-      std::ofstream out(path, std::ios::binary);
-      out << "# MHz S MA R 50\n";
-      for (int i = 0; i < 253; ++i) {
-        char line[200];
-        std::snprintf(line, sizeof line, "%d %.6f %.4f %.6f %.4f %.6f %.4f %.6f %.4f\n", 100 + i * 50,
-                      0.8 - i * 1e-3, -30.0 - i * 0.7, 5.0 + file * 0.3 - i * 0.015, 150.0 - i * 0.5,
-                      0.02 + i * 1e-4, 70.0 - i * 0.2, 0.6 - i * 1e-3, -20.0 - i * 0.3);
-        out << line;
-      }
-      paths.append(QString::fromStdString(path.string()));
-    }
-    return paths;
-  }();
+  static const QStringList files =
+      bench::WriteSyntheticFiles({"netrix_bench_graphwin", "device_", kFiles, 0.3, 0.015, false});
   return files;
 }
 

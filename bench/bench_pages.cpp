@@ -10,10 +10,7 @@
 #include <QStringList>
 #include <QTabBar>
 #include <QTemporaryDir>
-#include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "diagram/canvas.h"
@@ -21,6 +18,8 @@
 #include "mainwin/main_window.h"
 #include "controls/message_box.h"
 #include "diagram/pages/page_graphs.h"
+
+#include "synthetic_files.h"
 
 namespace {
 
@@ -57,25 +56,7 @@ BENCHMARK(BM_RedrawOutputPage1024x768)->Arg(0)->Arg(1)->Arg(2)->ArgName("page")-
 
 // 40 files of 253 points with "! Ic=" lines, written once.
 QStringList FortyFiles() {
-  static const QStringList files = [] {
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "netrix_bench_pages";
-    std::filesystem::create_directories(folder);
-    QStringList paths;
-    for (int file = 1; file <= kFiles; ++file) {
-      const std::filesystem::path path = folder / ("point_" + std::to_string(file) + ".s2p");
-      std::ofstream out(path, std::ios::binary);
-      out << "! Ic=" << file << "m\n# MHz S MA R 50\n";
-      for (int i = 0; i < 253; ++i) {
-        char line[200];
-        std::snprintf(line, sizeof line, "%d %.6f %.4f %.6f %.4f %.6f %.4f %.6f %.4f\n", 100 + i * 50,
-                      0.8 - i * 1e-3, -30.0 - i * 0.7, 5.0 + file * 0.1 - i * 0.01, 150.0 - i * 0.5,
-                      0.02 + i * 1e-4, 70.0 - i * 0.2, 0.6 - i * 1e-3, -20.0 - i * 0.3);
-        out << line;
-      }
-      paths.append(QString::fromStdString(path.string()));
-    }
-    return paths;
-  }();
+  static const QStringList files = bench::WriteSyntheticFiles({"netrix_bench_pages", "point_", kFiles, 0.1, 0.01, true});
   return files;
 }
 

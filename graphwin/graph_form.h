@@ -86,8 +86,8 @@ class TGraphForm : public QMainWindow {
   QCheckBox* AddCheckBox(const CheckBoxLook& look, bool checked);
   // The check marks of x-log and y-log after the scale modes.
   void ShowScaleModes();
-  // The printer set-up dialog on the window's printer.
-  void PrinterSetupClick();
+  // A "Printer &Setup" item of "&File" that opens the printer set-up dialog on the window's printer.
+  void AddPrinterSetupItem(const char* name);
   const plots::GraphInputs& Inputs() const { return inputs_; }
   const GraphDialogs& Dialogs() const { return dialogs_; }
   // The page's display options and the dot cycle, as the drawing takes them.
@@ -114,17 +114,15 @@ class TGraphForm : public QMainWindow {
   // The printed page: the diagram drawn afresh in the picture's proportions, fitted to the page or,
   // where the window prints its bitmap, as wide as the page.
   virtual void PrintPage(QPainter& painter, QSize page);
-  // The curves against frequency; null where the x axis is not frequency (a locus). The defaults
-  // below and the frequency cursor take them from here.
-  virtual const plots::FrequencyPlot* FrequencyCurves() const { return nullptr; }
-  // Where a frequency lies on the window's curves, as world points: by default on each curve
-  // against frequency that spans it, between its neighbouring points. A locus window overrides it.
-  virtual std::vector<QPointF> CursorPoints(double frequency) const;
+  // Whether x is frequency: the mouse then picks the cursor's frequency by its column alone.
+  virtual bool PlotsAgainstFrequency() const = 0;
+  // Where a frequency lies on the window's curves, as world points.
+  virtual std::vector<QPointF> CursorPoints(double frequency) const = 0;
   // What the autoscales look at.
-  virtual std::vector<double> XValues() const;
-  virtual std::vector<double> YValues() const;
+  virtual std::vector<double> XValues() const = 0;
+  virtual std::vector<double> YValues() const = 0;
   // The curves as plotted, as CSV text.
-  virtual std::string CurvesCsv() const;
+  virtual std::string CurvesCsv() const = 0;
   // The message that refuses a logarithmic x axis in the present display; empty to allow it.
   virtual std::string LogXRefusal() const { return {}; }
   // A double click defines the origin also in a polar diagram, instead of beeping there.
@@ -167,6 +165,7 @@ class TGraphForm : public QMainWindow {
   void SaveasGIF1Click();
   void ExportCurves1Click();
   void Print1Click();
+  void PrinterSetupClick();
   QPrinter& Printer();
 
   InputsSource source_;

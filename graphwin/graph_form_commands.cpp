@@ -5,12 +5,10 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPrinter>
-#include <span>
 
 #include "controls/dialog_hooks.h"
 #include "controls/message_box.h"
 #include "graph_form.h"
-#include "imageexport/atomic_file.h"
 #include "imageexport/picture_files.h"
 
 namespace graphwin {
@@ -68,8 +66,7 @@ void TGraphForm::ExportCurves1Click() {
 }
 
 void TGraphForm::WriteTextFile(const QString& path, const std::string& text) {
-  const std::span bytes(reinterpret_cast<const unsigned char*>(text.data()), text.size());
-  const imageexport::ExportResult written = imageexport::WriteFileAtomically(path.toStdString(), bytes);
+  const imageexport::ExportResult written = imageexport::SaveFileBytes(path.toStdString(), text);
   if (!written.Ok()) controls::ShowMessage(this, QString::fromStdString(written.error));
 }
 
@@ -83,6 +80,11 @@ void TGraphForm::SaveTable(const std::string& text) {
 QPrinter& TGraphForm::Printer() {
   if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   return *printer_;
+}
+
+void TGraphForm::AddPrinterSetupItem(const char* name) {
+  connect(InsertFileItem(name, QStringLiteral("Printer &Setup")), &QAction::triggered, this,
+          &TGraphForm::PrinterSetupClick);
 }
 
 void TGraphForm::PrinterSetupClick() { controls::SetUpPrinter(this, Printer()); }

@@ -1,15 +1,11 @@
 #include "gwin.h"
 
-#include <QAction>
-#include <QCheckBox>
-
-#include "diagram/axis.h"
+#include "plots/gain_plot.h"
 
 namespace graphwin {
 namespace {
 
-using plots::GainBox;
-
+// In the order of plots::GainBox.
 constexpr CheckBoxLook kBoxes[] = {
     {"CheckBoxMAG", 278, "MAG/MSG", "Maximum available gain and maximum stable gain"},
     {"CheckBoxMason", 368, "Mason", "Mason Gain U"},
@@ -20,47 +16,32 @@ constexpr CheckBoxLook kBoxes[] = {
 constexpr double kHighestFrequencyBound = 1e10;
 constexpr double kGainBound = 100;
 
-plots::GainChoice ChoiceOf(const std::array<QCheckBox*, 4>& boxes) {
-  return {boxes[0]->isChecked(), boxes[1]->isChecked(), boxes[2]->isChecked(), boxes[3]->isChecked()};
+plots::GainChoice ChoiceOf(const std::vector<bool>& boxes) { return {boxes[0], boxes[1], boxes[2], boxes[3]}; }
+std::vector<bool> BoxesOf(const plots::GainChoice& choice) { return {choice.mag, choice.mason, choice.mug, choice.s21}; }
+
+std::vector<bool> AfterClick(std::vector<bool> boxes, std::size_t clicked) {
+  const plots::GainChoice choice = plots::AfterGainClick(ChoiceOf(boxes), static_cast<plots::GainBox>(clicked));
+  boxes[static_cast<std::size_t>(plots::GainBox::Mag)] = choice.mag;
+  return boxes;
 }
+
+// A logarithmic axis cannot start at 0.
+Bounds BoundsOf(AxisEnd end, bool logX) {
+  if (!IsXEnd(end)) return {-kGainBound, kGainBound};
+  return {end == AxisEnd::XMin && logX ? 1.0 : 0.0, kHighestFrequencyBound};
+}
+
+constexpr FrequencyWindow kGain{"FormG", "Gain", kBoxes, AfterClick, plots::SetGainDefaults, BoundsOf};
 
 }  // namespace
 
 TFormG::TFormG(InputsSource inputs, const GraphDialogs& dialogs)
-    : TGraphForm("FormG", QStringLiteral("Gain"), std::move(inputs), dialogs) {
-  const plots::GainChoice initial;
-  const bool checked[] = {initial.mag, initial.mason, initial.mug, initial.s21};
-  for (std::size_t i = 0; i < checkBoxes_.size(); ++i) {
-    checkBoxes_[i] = AddCheckBox(kBoxes[i], checked[i]);
-    connect(checkBoxes_[i], &QCheckBox::clicked, this, [this, i] { CheckBoxClick(static_cast<GainBox>(i)); });
-  }
-  QAction* table = InsertFileItem("WerteinTabellespeichern1", QStringLiteral("Save &Table"));
-  table->setVisible(false);
-  connect(table, &QAction::triggered, this, &TFormG::WerteinTabellespeichern1Click);
+    : TFrequencyForm(kGain, BoxesOf({}), std::move(inputs), dialogs) {
+  AddHiddenTableItem(QStringLiteral("Save &Table"), plots::GainTableText);
 }
 
-void TFormG::CheckBoxClick(GainBox box) {
-  const plots::GainChoice choice = plots::AfterGainClick(ChoiceOf(checkBoxes_), box);
-  checkBoxes_[static_cast<std::size_t>(GainBox::Mag)]->setChecked(choice.mag);
-  ComputeCurves();
-  Redraw();
-}
-
-void TFormG::ComputeCurves() { plot_ = plots::BuildGainPlot(Inputs(), ChoiceOf(checkBoxes_)); }
-
-void TFormG::ResetScale(diagram::Diagram& d) { plots::SetGainDefaults(d, plots::HighestFrequency(plot_)); }
-
-void TFormG::DrawPicture(diagram::Canvas& canvas) { plots::DrawFrequencyPlot(plot_, Look(), canvas); }
+plots::FrequencyPlot TFormG::BuildPlot() const { return plots::BuildGainPlot(Inputs(), ChoiceOf(Checked())); }
 
 std::string TFormG::ReadOutText(double x, double y) const { return plots::GainReadOut(x, y); }
-
-// A logarithmic axis cannot start at 0.
-Bounds TFormG::AxisBounds(AxisEnd end) const {
-  if (!IsXEnd(end)) return {-kGainBound, kGainBound};
-  const bool logX = diagram::CurrentDiagram().x.mode == diagram::AxisMode::Log;
-  return {end == AxisEnd::XMin && logX ? 1.0 : 0.0, kHighestFrequencyBound};
-}
-
-void TFormG::WerteinTabellespeichern1Click() { SaveTable(plots::GainTableText(plots::HighestFrequency(plot_))); }
 
 }  // namespace graphwin

@@ -14,6 +14,15 @@
 namespace graphwin {
 namespace {
 
+constexpr ViewItem kViews[] = {
+    {"Polar1", "&Polar", plots::SView::Polar},
+    {"SmithDiagramm1", "&Smith", plots::SView::Smith},
+    {"Kartesisch1", "&Cartesian", plots::SView::Cartesian},
+    {"Sii11", "Magnitude of Sii vs Frequency", plots::SView::Magnitude},
+    {"dBSii1", "20log|Sii| vs Frequency", plots::SView::Decibels},
+    {"PhiSii1", "Phase Sii vs Frequency", plots::SView::Phase},
+};
+
 constexpr int kSpinLeft = 278;
 constexpr int kCirclesLabelLeft = 300;
 
@@ -21,14 +30,7 @@ constexpr int kCirclesLabelLeft = 300;
 
 TFormPhi::TFormPhi(InputsSource inputs, const GraphDialogs& dialogs)
     : TSParameterForm("FormPhi", plots::SWindow::Reflection, plots::SView::Smith, std::move(inputs), dialogs) {
-  const QString locus = QStringLiteral("Ortskurvendarstellung");
-  AddViewItem("Polar1", QStringLiteral("&Polar"), plots::SView::Polar)->setToolTip(locus);
-  AddViewItem("SmithDiagramm1", QStringLiteral("&Smith"), plots::SView::Smith);
-  AddViewItem("Kartesisch1", QStringLiteral("&Cartesian"), plots::SView::Cartesian)->setToolTip(locus);
-  InsertScalesSeparator("N5");
-  AddViewItem("Sii11", QStringLiteral("Magnitude of Sii vs Frequency"), plots::SView::Magnitude);
-  AddViewItem("dBSii1", QStringLiteral("20log|Sii| vs Frequency"), plots::SView::Decibels);
-  AddViewItem("PhiSii1", QStringLiteral("Phase Sii vs Frequency"), plots::SView::Phase);
+  AddViewItems(kViews);
   findChild<QAction*>("Print1")->setObjectName("Drucken1");
   findChild<QAction*>("Exit1")->setObjectName("Exit2");
   AddPrinterSetupItem("Drucken2");

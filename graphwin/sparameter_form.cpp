@@ -22,19 +22,25 @@ TSParameterForm::TSParameterForm(const char* name, plots::SWindow window, plots:
       choice_(plots::BothParameters(window)),
       viewItems_(new QActionGroup(this)) {}
 
-QAction* TSParameterForm::AddViewItem(const char* name, const QString& caption, plots::SView view) {
-  QAction* item = InsertScalesItem(name, caption);
-  item->setCheckable(true);
-  item->setChecked(view == view_);
-  viewItems_->addAction(item);
-  viewActions_.emplace_back(view, item);
-  connect(item, &QAction::triggered, this, [this, view] { SetView(view); });
-  return item;
+void TSParameterForm::AddViewItems(std::span<const ViewItem> items) {
+  for (const ViewItem& item : items) {
+    const bool afterLoci = !viewActions_.empty() && plots::IsLocus(viewActions_.back().first);
+    if (afterLoci && !plots::IsLocus(item.view)) InsertScalesSeparator("N5");
+    AddViewItem(item);
+  }
 }
 
-void TSParameterForm::AddPrinterSetupItem(const char* name) {
-  connect(InsertFileItem(name, QStringLiteral("Printer &Setup")), &QAction::triggered, this,
-          &TSParameterForm::PrinterSetupClick);
+// The polar and cartesian items say that they show a locus.
+void TSParameterForm::AddViewItem(const ViewItem& item) {
+  QAction* action = InsertScalesItem(item.name, QString::fromUtf8(item.caption));
+  action->setCheckable(true);
+  action->setChecked(item.view == view_);
+  if (item.view == plots::SView::Polar || item.view == plots::SView::Cartesian) {
+    action->setToolTip(QStringLiteral("Ortskurvendarstellung"));
+  }
+  viewItems_->addAction(action);
+  viewActions_.emplace_back(item.view, action);
+  connect(action, &QAction::triggered, this, [this, view = item.view] { SetView(view); });
 }
 
 void TSParameterForm::SetView(plots::SView view) {
@@ -80,12 +86,8 @@ std::string TSParameterForm::ReadOutText(double x, double y) const {
 
 Bounds TSParameterForm::AxisBounds(AxisEnd end) const { return IsXEnd(end) ? kXBounds : kYBounds; }
 
-const plots::FrequencyPlot* TSParameterForm::FrequencyCurves() const {
-  return plots::IsLocus(view_) ? nullptr : &plot_.curves;
-}
-
 std::vector<QPointF> TSParameterForm::CursorPoints(double frequency) const {
-  return plots::IsLocus(view_) ? plots::LocusPointsAt(plot_, frequency) : TGraphForm::CursorPoints(frequency);
+  return plots::IsLocus(view_) ? plots::LocusPointsAt(plot_, frequency) : plots::PointsAt(plot_.curves, frequency);
 }
 
 std::vector<double> TSParameterForm::XValues() const { return plots::XValuesOf(plot_); }

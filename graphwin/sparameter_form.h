@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -11,8 +12,15 @@ class QActionGroup;
 // What the reflection and the transmission windows share on top of the common window: the
 // display modes of "&Scales", the curves of the chosen parameters, their read-out, the bounds
 // of the axis dialog, the refusal of a logarithmic x axis in the polar diagram and the Smith
-// chart, bitmap printing and the printer set-up.
+// chart, and bitmap printing.
 namespace graphwin {
+
+// A display mode's item of "&Scales".
+struct ViewItem {
+  const char* name;
+  const char* caption;
+  plots::SView view;
+};
 
 class TSParameterForm : public TGraphForm {
   Q_OBJECT
@@ -25,11 +33,9 @@ class TSParameterForm : public TGraphForm {
   TSParameterForm(const char* name, plots::SWindow window, plots::SView startView, InputsSource inputs,
                   const GraphDialogs& dialogs);
 
-  // A checkable item at the top of "&Scales" that shows the view from its starting ranges.
-  QAction* AddViewItem(const char* name, const QString& caption, plots::SView view);
-  plots::SView View() const { return view_; }
-  // The printer set-up item of "&File".
-  void AddPrinterSetupItem(const char* name);
+  // Checkable items at the top of "&Scales" that show their views from their starting ranges:
+  // the loci, a separator, the views against frequency.
+  void AddViewItems(std::span<const ViewItem> items);
 
   // What the window adds to its loci; the Smith chart labelled at the page's Z0.
   virtual plots::LocusLook Locus() const;
@@ -41,8 +47,7 @@ class TSParameterForm : public TGraphForm {
   void DrawPicture(diagram::Canvas& canvas) override;
   std::string ReadOutText(double x, double y) const override;
   Bounds AxisBounds(AxisEnd end) const override;
-  // Against frequency the base finds the cursor on the curves; a locus has its own points.
-  const plots::FrequencyPlot* FrequencyCurves() const override;
+  bool PlotsAgainstFrequency() const override { return !plots::IsLocus(view_); }
   std::vector<QPointF> CursorPoints(double frequency) const override;
   std::vector<double> XValues() const override;
   std::vector<double> YValues() const override;
@@ -51,6 +56,7 @@ class TSParameterForm : public TGraphForm {
   bool PrintsBitmap() const override { return true; }
 
  private:
+  void AddViewItem(const ViewItem& item);
   void SetView(plots::SView view);
   void CheckViewItem();
 

@@ -6,6 +6,14 @@
 namespace graphwin {
 namespace {
 
+constexpr ViewItem kViews[] = {
+    {"Kartesisch1", "&Cartesian", plots::SView::Cartesian},
+    {"Polar1", "&Polar", plots::SView::Polar},
+    {"Sijf1", "Betrag of Sij vs Frequency", plots::SView::Magnitude},
+    {"dBSij1", "20log(Sij) vs Frequency", plots::SView::Decibels},
+    {"PhiSij1", "Phase of Sij vs Frequency", plots::SView::Phase},
+};
+
 constexpr int kSpinLeft = 278;
 constexpr double kZoomStep = 10;
 
@@ -13,13 +21,7 @@ constexpr double kZoomStep = 10;
 
 TFormVu::TFormVu(InputsSource inputs, const GraphDialogs& dialogs)
     : TSParameterForm("FormVu", plots::SWindow::Transmission, plots::SView::Polar, std::move(inputs), dialogs) {
-  const QString locus = QStringLiteral("Ortskurvendarstellung");
-  AddViewItem("Kartesisch1", QStringLiteral("&Cartesian"), plots::SView::Cartesian)->setToolTip(locus);
-  AddViewItem("Polar1", QStringLiteral("&Polar"), plots::SView::Polar)->setToolTip(locus);
-  InsertScalesSeparator("N5");
-  AddViewItem("Sijf1", QStringLiteral("Betrag of Sij vs Frequency"), plots::SView::Magnitude);
-  AddViewItem("dBSij1", QStringLiteral("20log(Sij) vs Frequency"), plots::SView::Decibels);
-  AddViewItem("PhiSij1", QStringLiteral("Phase of Sij vs Frequency"), plots::SView::Phase);
+  AddViewItems(kViews);
   InsertScalesSeparator("N6");
   AddPrinterSetupItem("Einstellung");
   spinButtonS12Zoom_ = new controls::TSpinButton(ToolPanel());

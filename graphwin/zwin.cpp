@@ -2,18 +2,15 @@
 
 #include <QAction>
 #include <QActionGroup>
-#include <QCheckBox>
 #include <QPainter>
 #include <QPixmap>
-
-#include "diagram/axis.h"
 
 namespace graphwin {
 namespace {
 
 using plots::ImpedanceMode;
 
-// "Zchar" finds no room beside the others and goes below them.
+// In the order of plots::ImpedanceChoice; "Zchar" finds no room beside the others and goes below them.
 constexpr CheckBoxLook kBoxes[] = {
     {"CheckBoxSym", 276, "symmetrical", "Push-pull operation"},
     {"CheckBoxTor1", 376, "Port1", "With short circuit at port #2"},
@@ -36,20 +33,39 @@ constexpr ModeItem kModes[] = {
 
 constexpr double kHighestFrequencyBound = 1e11;
 
+plots::ImpedanceChoice ChoiceOf(const std::vector<bool>& boxes) {
+  return {boxes[0], boxes[1], boxes[2], boxes[3], boxes[4]};
+}
+std::vector<bool> BoxesOf(const plots::ImpedanceChoice& choice) {
+  return {choice.sym, choice.port1, choice.port2, choice.cross, choice.image};
+}
+
+std::vector<bool> AfterClick(std::vector<bool> boxes, std::size_t) {
+  boxes[1] = plots::AfterImpedanceClick(ChoiceOf(boxes)).port1;
+  return boxes;
+}
+
+// A logarithmic frequency axis cannot start at 0.
+Bounds BoundsOf(AxisEnd end, bool logX) {
+  switch (end) {
+    case AxisEnd::XMax: return {1, kHighestFrequencyBound};
+    case AxisEnd::XMin: return {logX ? 1.0 : 0.0, kHighestFrequencyBound};
+    case AxisEnd::YMin: return {-1e6, 1e5};
+    case AxisEnd::YMax: break;
+  }
+  return {-1e5, 1e6};
+}
+
+constexpr FrequencyWindow kImpedance{"FormZ", "Impedance Z(f)", kBoxes, AfterClick, plots::SetImpedanceDefaults,
+                                     BoundsOf};
+
 }  // namespace
 
 TFormZ::TFormZ(InputsSource inputs, const GraphDialogs& dialogs)
-    : TGraphForm("FormZ", QStringLiteral("Impedance Z(f)"), std::move(inputs), dialogs) {
+    : TFrequencyForm(kImpedance, BoxesOf({}), std::move(inputs), dialogs) {
   ToolPanel()->setFixedHeight(2 * ToolPanel()->height());
-  const plots::ImpedanceChoice initial;
-  const bool checked[] = {initial.sym, initial.port1, initial.port2, initial.cross, initial.image};
-  for (std::size_t i = 0; i < checkBoxes_.size(); ++i) {
-    checkBoxes_[i] = AddCheckBox(kBoxes[i], checked[i]);
-    connect(checkBoxes_[i], &QCheckBox::clicked, this, &TFormZ::CheckBoxClick);
-  }
   BuildModeItems();
-  connect(InsertFileItem("Druckereinstellung1", QStringLiteral("Printer &Setup")), &QAction::triggered, this,
-          &TFormZ::PrinterSetupClick);
+  AddPrinterSetupItem("Druckereinstellung1");
 }
 
 void TFormZ::BuildModeItems() {
@@ -64,45 +80,20 @@ void TFormZ::BuildModeItems() {
   InsertScalesSeparator("N5");
 }
 
-plots::ImpedanceChoice TFormZ::Choice() const {
-  const auto on = [this](std::size_t i) { return checkBoxes_[i]->isChecked(); };
-  return {on(0), on(1), on(2), on(3), on(4)};
-}
-
-void TFormZ::CheckBoxClick() {
-  checkBoxes_[1]->setChecked(plots::AfterImpedanceClick(Choice()).port1);
-  ComputeCurves();
-  Redraw();
-}
-
 void TFormZ::ModeClick(ImpedanceMode mode) {
   mode_ = mode;
   ComputeCurves();
   Redraw();
 }
 
-void TFormZ::ComputeCurves() { plot_ = plots::BuildImpedancePlot(Inputs(), Choice(), mode_); }
-
-void TFormZ::ResetScale(diagram::Diagram& d) { plots::SetImpedanceDefaults(d, plots::HighestFrequency(plot_)); }
-
-void TFormZ::DrawPicture(diagram::Canvas& canvas) { plots::DrawFrequencyPlot(plot_, Look(), canvas); }
+plots::FrequencyPlot TFormZ::BuildPlot() const {
+  return plots::BuildImpedancePlot(Inputs(), ChoiceOf(Checked()), mode_);
+}
 
 std::string TFormZ::ReadOutText(double x, double y) const { return plots::ImpedanceReadOut(x, y, mode_); }
 
-// A logarithmic frequency axis cannot start at 0.
-Bounds TFormZ::AxisBounds(AxisEnd end) const {
-  const bool logX = diagram::CurrentDiagram().x.mode == diagram::AxisMode::Log;
-  switch (end) {
-    case AxisEnd::XMax: return {1, kHighestFrequencyBound};
-    case AxisEnd::XMin: return {logX ? 1.0 : 0.0, kHighestFrequencyBound};
-    case AxisEnd::YMin: return {-1e6, 1e5};
-    case AxisEnd::YMax: break;
-  }
-  return {-1e5, 1e6};
-}
-
 std::string TFormZ::AxisLabel(AxisEnd end) const {
-  if (!IsXEnd(end)) return TGraphForm::AxisLabel(end);
+  if (!IsXEnd(end)) return TFrequencyForm::AxisLabel(end);
   return end == AxisEnd::XMax ? "fmax=" : "fmin=";
 }
 

@@ -1,14 +1,16 @@
 #include "pdf_file.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSizeF>
+#include <cassert>
 
-#include "atomic_file.h"
+#include "picture_files.h"
 
 namespace imageexport {
 namespace {
@@ -18,10 +20,12 @@ constexpr double kPointsPerInch = 72;
 }  // namespace
 
 ExportResult SavePdf(const std::string& path, int width, int height, const std::function<void(QPainter&)>& draw) {
-  QSaveFile file(QString::fromStdString(path));
-  if (ExportResult opened = OpenSaveFile(file); !opened.Ok()) return opened;
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  [[maybe_unused]] const bool opened = buffer.open(QIODevice::WriteOnly);
+  assert(opened);  // a buffer in memory always opens
   {
-    QPdfWriter pdf(&file);
+    QPdfWriter pdf(&buffer);
     pdf.setCreator("netrix");
     pdf.setResolution(kPdfPixelsPerInch);
     const double scale = kPointsPerInch / kPdfPixelsPerInch;
@@ -30,7 +34,7 @@ ExportResult SavePdf(const std::string& path, int width, int height, const std::
     QPainter painter(&pdf);
     draw(painter);
   }
-  return CommitSaveFile(file);
+  return SaveFileBytes(path, bytes);
 }
 
 }  // namespace imageexport

@@ -1,32 +1,48 @@
 #include "picture_files.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QImageWriter>
-#include <QSaveFile>
 #include <cassert>
-#include <cerrno>
 #include <span>
 
-#include "atomic_file.h"
 #include "gif_encoder.h"
 #include "jpeg_encoder.h"
+#include "numerics/file_writer.h"
 
 namespace imageexport {
 namespace {
 
+std::string CannotWriteMessage(const std::string& path, const std::string& reason) {
+  return "Cannot write the picture \"" + path + "\": " + reason +
+         ". Check that the folder exists and that you may write to it.";
+}
+
+std::string_view AsText(std::span<const unsigned char> bytes) {
+  return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
 ExportResult SaveThroughQt(const QImage& image, const std::string& path, const char* format) {
-  QSaveFile file(QString::fromStdString(path));
-  if (ExportResult opened = OpenSaveFile(file); !opened.Ok()) return opened;
-  QImageWriter writer(&file, format);
-  errno = 0;
-  if (!writer.write(image)) {
-    const std::string reason = errno != 0 ? FailureReason(file, errno) : writer.errorString().toStdString();
-    file.cancelWriting();
-    return {CannotWriteMessage(path, reason)};
-  }
-  return CommitSaveFile(file);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  [[maybe_unused]] const bool opened = buffer.open(QIODevice::WriteOnly);
+  assert(opened);  // a buffer in memory always opens
+  QImageWriter writer(&buffer, format);
+  if (!writer.write(image)) return {CannotWriteMessage(path, writer.errorString().toStdString())};
+  return SaveFileBytes(path, bytes);
 }
 
 }  // namespace
+
+ExportResult SaveFileBytes(const std::string& path, std::string_view bytes) {
+  const numerics::FileWriteOutcome written = numerics::WriteFileAtomically(path, bytes);
+  if (written.Ok()) return {};
+  return {CannotWriteMessage(path, written.reason)};
+}
+
+ExportResult SaveFileBytes(const std::string& path, const QByteArray& bytes) {
+  return SaveFileBytes(path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
 
 ExportResult SaveBmp(const QImage& image, const std::string& path) { return SaveThroughQt(image, path, "BMP"); }
 ExportResult SavePng(const QImage& image, const std::string& path) { return SaveThroughQt(image, path, "PNG"); }
@@ -34,7 +50,7 @@ ExportResult SavePng(const QImage& image, const std::string& path) { return Save
 ExportResult SaveJpeg(const QImage& image, const std::string& path) {
   const JpegOutcome jpeg = EncodeJpeg(image);
   if (!jpeg.error.empty()) return {CannotWriteMessage(path, "the JPEG coder refused it: " + jpeg.error)};
-  return WriteFileAtomically(path, jpeg.bytes);
+  return SaveFileBytes(path, AsText(jpeg.bytes));
 }
 
 ExportResult SaveGif(const QImage& image, const std::string& path) {
@@ -44,7 +60,7 @@ ExportResult SaveGif(const QImage& image, const std::string& path) {
   const std::span<const std::uint32_t> pixels(reinterpret_cast<const std::uint32_t*>(rgb.constBits()),
                                               static_cast<std::size_t>(rgb.width()) * static_cast<std::size_t>(rgb.height()));
   const std::vector<std::uint8_t> bytes = EncodeGif(rgb.width(), rgb.height(), pixels);
-  return WriteFileAtomically(path, bytes);
+  return SaveFileBytes(path, AsText(bytes));
 }
 
 }  // namespace imageexport

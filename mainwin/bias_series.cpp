@@ -1,12 +1,13 @@
 #include "bias_series.h"
 
+#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <utility>
 
 #include "controls/dialog_hooks.h"
 #include "controls/message_box.h"
 #include "input_page.h"
+#include "numerics/file_writer.h"
 #include "series/dropped_files.h"
 #include "series/series_evaluation.h"
 #include "series/series_messages.h"
@@ -17,11 +18,10 @@ namespace {
 
 // The file holds its old content or the whole new one; an empty text means written.
 QString WriteDataFile(const QString& path, const std::string& content) {
-  QSaveFile file(path);
-  const auto size = static_cast<qint64>(content.size());
-  if (file.open(QIODevice::WriteOnly) && file.write(content.data(), size) == size && file.commit()) return {};
+  const numerics::FileWriteOutcome written = numerics::WriteFileAtomically(QFile::encodeName(path).toStdString(), content);
+  if (written.Ok()) return {};
   return QStringLiteral("The data could not be written to %1 (%2). Choose a folder you may write to and export again!")
-      .arg(path, file.errorString());
+      .arg(path, QString::fromStdString(written.reason));
 }
 
 }  // namespace

@@ -2,9 +2,10 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <algorithm>
+#include <string_view>
 
+#include "numerics/file_writer.h"
 #include "settings_problems.h"
 
 namespace mainwin {
@@ -128,10 +129,11 @@ bool LoadIniFile(const QString& path, IniFile& ini, QString& reason) {
 }
 
 bool SaveIniFile(const QString& path, const IniFile& ini, QString& reason) {
-  QSaveFile file(path);
   const QByteArray bytes = ini.Bytes();
-  if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return true;
-  reason = file.errorString();
+  const numerics::FileWriteOutcome written = numerics::WriteFileAtomically(
+      QFile::encodeName(path).toStdString(), std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  if (written.Ok()) return true;
+  reason = QString::fromStdString(written.reason);
   return false;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <optional>
 
 #include "diagram/axes.h"
 #include "diagram/axis_labels.h"
@@ -55,6 +56,18 @@ void DrawCurve(const Diagram& d, const FrequencyCurve& curve, const PlotLook& lo
   } else {
     diagram::DrawCurveWithText(d, curve.frequency, curve.value, false, lines ? count : 1, c, curve.name);
   }
+}
+
+// The value at frequency on the segment of the curve that spans it, linearly between its ends.
+std::optional<double> ValueAt(const FrequencyCurve& curve, double frequency) {
+  const std::vector<double>& f = curve.frequency;
+  for (std::size_t i = 0; i < f.size(); ++i) {
+    if (f[i] == frequency) return curve.value[i];
+    if (i + 1 < f.size() && (frequency - f[i]) * (frequency - f[i + 1]) < 0) {
+      return curve.value[i] + (curve.value[i + 1] - curve.value[i]) * (frequency - f[i]) / (f[i + 1] - f[i]);
+    }
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -113,6 +126,14 @@ std::vector<double> AllValues(const FrequencyPlot& plot) {
 double HighestFrequency(const FrequencyPlot& plot) {
   const std::vector<double> all = AllFrequencies(plot);
   return all.empty() ? 0 : *std::max_element(all.begin(), all.end());
+}
+
+std::vector<QPointF> PointsAt(const FrequencyPlot& plot, double frequency) {
+  std::vector<QPointF> points;
+  for (const FrequencyCurve& curve : plot.curves) {
+    if (const std::optional<double> value = ValueAt(curve, frequency)) points.emplace_back(frequency, *value);
+  }
+  return points;
 }
 
 std::string PositionText(double frequency) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointF>
 #include <string>
 #include <vector>
 
@@ -63,6 +64,10 @@ std::vector<double> AllFrequencies(const FrequencyPlot& plot);
 std::vector<double> AllValues(const FrequencyPlot& plot);
 // The highest frequency of the curves; 0 without any point.
 double HighestFrequency(const FrequencyPlot& plot);
+
+// Where a frequency lies on the curves, as world points: on each curve that spans it, between its
+// neighbouring points.
+std::vector<QPointF> PointsAt(const FrequencyPlot& plot, double frequency);
 
 // "Position : f=1.00GHz, ", how every read-out against frequency begins.
 std::string PositionText(double frequency);

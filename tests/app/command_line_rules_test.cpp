@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <cstdlib>
@@ -30,12 +29,9 @@ class CommandLineRulesTest : public CommandTest, public testing::WithParamInterf
   void SetUp() override {
     CommandTest::SetUp();
     for (const char* name : {"a.s2p", "b.s2p", "meas.txt"}) Write(name, kDevice);
-    for (const char* name : {"ro.spa", "ro.png"}) {
-      Write(name, "kept\n");
-      fs::permissions(Path(name), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-    }
+    Write("ro.spa", "kept\n");
+    fs::permissions(Path("ro.spa"), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
     Write("nan.s2p", "! Ic=1m\n1000 1e999 0 2 0 0.25 0 0 0\n");
-    Write("cut.s2p", "! Ic=1m\n1000 0 0 2 0 0.25\n");
     Write("fall.s2p", "title\n2G 0 0 2 0 0.25 0 0 0\n3G 0 0 2 0 0.25 0 0 0\n1G 0 0 2 0 0.25 0 0 0\n");
   }
 
@@ -51,29 +47,22 @@ TEST_P(CommandLineRulesTest, KeepsTheUsersFilesAndTellsWhy) {
   EXPECT_EQ(Shell(GetParam().command), GetParam().status);
   EXPECT_NE(ReadFile(Path("err.txt")).find(GetParam().told), std::string::npos) << ReadFile(Path("err.txt"));
   for (const char* name : {"a.s2p", "b.s2p", "meas.txt"}) EXPECT_EQ(ReadFile(Path(name)), kDevice) << name;
-  for (const char* name : {"ro.spa", "ro.png"}) EXPECT_EQ(ReadFile(Path(name)), "kept\n") << name;
+  EXPECT_EQ(ReadFile(Path("ro.spa")), "kept\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Commands, CommandLineRulesTest,
     testing::Values(
         RuleCase{"OutLostItsValue", "{netrix} --series --out *.s2p", 1, "has the extension of an S-parameter file"},
-        RuleCase{"OutIsAnInputByAnotherName", "{netrix} --series --out ./meas.txt meas.txt", 1,
-                 "is one of the input files"},
-        RuleCase{"DataIsAnInput", "{netrix} --render gain --out g.png --data meas.txt meas.txt", 1,
+        RuleCase{"DataIsAnInputByAnotherName", "{netrix} --render gain --out g.png --data ./meas.txt meas.txt", 1,
                  "is one of the input files"},
         RuleCase{"SeriesOverAProtectedFile", "{netrix} --series --out ro.spa a.s2p", 1, "ro.spa is write-protected"},
-        RuleCase{"RenderOverAProtectedFile", "{netrix} --render smith --out ro.png meas.txt", 1,
-                 "ro.png is write-protected"},
         RuleCase{"ClosedStandardOutput", "{netrix} --series a.s2p >&-", 1, "(Bad file descriptor)"},
         // A file size limit stops the writes part of the way, as a full disk does.
         RuleCase{"PictureOnAFullDisk", "trap '' XFSZ; ulimit -f 1; {netrix} --render smith --out big.bmp meas.txt", 1,
                  "\"big.bmp\": File too large"},
         RuleCase{"FiguresToAFullDisk", "{netrix} --figures meas.txt > /dev/full", 1,
                  "the figures could not be written to standard output (No space left on device)"},
-        RuleCase{"SeriesFileTooLargeIsNotCut", "truncate -s 65M big.s2p && {netrix} --series big.s2p", 1,
-                 "big.s2p cannot be read (larger than 64 MiB"},
-        RuleCase{"SeriesRecordCutByTheEnd", "{netrix} --series cut.s2p", 1, "line 2: the file ends within this record"},
         RuleCase{"NotFiniteSeriesRow", "{netrix} --series nan.s2p > out.spa", 0,
                  "not finite numbers (nan or inf) for fT"},
         RuleCase{"NotFiniteFiguresRow", "{netrix} --figures nan.s2p > out.csv", 0,
@@ -84,26 +73,6 @@ INSTANTIATE_TEST_SUITE_P(
         RuleCase{"WindowWithoutDisplay", "env -u DISPLAY -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb {netrix} a.s2p", 1,
                  "no display could be reached (DISPLAY is not set)"}),
     [](const testing::TestParamInfo<RuleCase>& info) { return std::string(info.param.name); });
-
-// In every mode a link stays a link and its target gets the output; the target keeps its permissions.
-TEST_F(CommandLineRulesTest, WritesThroughALinkAndKeepsThePermissions) {
-  const fs::perms kept = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
-  const struct {
-    std::string extension;
-    const char* command;
-    const char* head;
-  } outputs[] = {{".spa", "{netrix} --series --out link.spa a.s2p", "Data derived by"},
-                 {".png", "{netrix} --render smith --out link.png a.s2p", "\x89PNG"}};
-  for (const auto& [extension, command, head] : outputs) {
-    Write("target" + extension, "old\n");
-    fs::permissions(Path("target" + extension), kept);
-    fs::create_symlink("target" + extension, Path("link" + extension));
-    ASSERT_EQ(Shell(command), 0) << ReadFile(Path("err.txt"));
-    EXPECT_TRUE(fs::is_symlink(Path("link" + extension)));
-    EXPECT_EQ(ReadFile(Path("target" + extension)).rfind(head, 0), 0U) << extension;
-    EXPECT_EQ(fs::status(Path("target" + extension)).permissions() & fs::perms::all, kept) << extension;
-  }
-}
 
 }  // namespace
 }  // namespace app

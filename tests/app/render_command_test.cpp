@@ -4,7 +4,6 @@
 
 #include <QImage>
 #include <algorithm>
-#include <cmath>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -53,80 +52,29 @@ TEST_P(RenderEveryViewTest, WritesAPictureOfTheAskedSize) {
   }
   const QImage image = QImage::fromData(QByteArray::fromStdString(bytes)).convertToFormat(QImage::Format_RGB32);
   ASSERT_EQ(image.size(), QSize(500, 320));
-  int inked = 0, reddish = 0;  // the first file's curves are red
+  int reddish = 0;  // the first file's curves are red
   for (int y = 0; y < 320; ++y) {
     for (int x = 0; x < 500; ++x) {
       const QRgb p = image.pixel(x, y);
-      inked += p != qRgb(255, 255, 255);
       reddish += qRed(p) - std::max(qGreen(p), qBlue(p)) > 60;  // loose enough for JPEG's smearing
     }
   }
-  EXPECT_GT(inked, 2000);
   EXPECT_GT(reddish, 20);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     All, RenderEveryViewTest,
-    testing::Values(ViewFormat{"smith", ".gif"}, ViewFormat{"polar", ".bmp"}, ViewFormat{"polar", ".jpg"},
-                    ViewFormat{"cartesian", ".PDF"}, ViewFormat{"impedance", ".png"}),
+    testing::Values(ViewFormat{"smith", ".gif"}, ViewFormat{"cartesian", ".bmp"}, ViewFormat{"polar", ".jpg"},
+                    ViewFormat{"gain", ".PDF"}, ViewFormat{"impedance", ".png"}),
     [](const testing::TestParamInfo<ViewFormat>& info) {
       return std::string(info.param.view) + "_" + (info.param.extension + 1);
     });
 
-TEST_F(RenderCommandTest, SmithCurveAndGridAgreeWithTheReflectionPlane) {
-  const std::string path = Path("smith.png");
-  ASSERT_EQ(Run({"--render", "smith", "--q", "1", "--out", path, input_}), 0) << err_.str();
-  const QImage image(QString::fromStdString(path));
-  ASSERT_EQ(image.size(), QSize(768, 576));
-  // Frame 66 .. 716 by 41 .. 525; 484 rows hold -1 .. 1, so one unit is 242 pixels and the
-  // centre is column 391, row 283.
-  const auto at = [&](double re, double im) {
-    return image.pixel(static_cast<int>(std::lround(391 + 242 * re)), static_cast<int>(std::lround(283 - 242 * im)));
-  };
-  EXPECT_EQ(at(0, -0.5), qRgb(255, 0, 0));  // S11 of the fixture at -90 degrees, first file in red
-  EXPECT_EQ(at(0, 1), qRgb(128, 128, 128));  // rim
-  EXPECT_EQ(at(0, 0.5 - 0.001), qRgb(255, 255, 255));
-}
-
-TEST_F(RenderCommandTest, CartesianDrawsTheGainInDecibels) {
-  const std::string path = Path("gain.png");
-  ASSERT_EQ(Run({"--render", "cartesian", "--no-spline", "--out", path, input_}), 0) << err_.str();
-  const QImage image(QString::fromStdString(path));
-  // |S21| = 4 is 12.04 dB; autoscaled to 0 .. 20 on rows 525 .. 41; the transmission window's
-  // frequency axis from 0 to 1.9 GHz over columns 66 .. 716, so column 391 is 0.95 GHz.
-  const int row = static_cast<int>(std::lround(525 - 484 * 20 * std::log10(4.0) / 20));
-  bool red = false;
-  for (int dy = -1; dy <= 1; ++dy) red = red || image.pixel(391, row + dy) == qRgb(255, 0, 0);
-  EXPECT_TRUE(red);
-}
-
-// The curve table of the gain view holds, point for point, the numbers of netrix --figures.
-TEST_F(RenderCommandTest, GainCurvesAreTheFiguresColumns) {
-  const std::string csv = Path("gain.csv"), picture = Path("gain.png");
-  ASSERT_EQ(Run({"--render", "gain", "--curves", "s21,mug,u,mag", "--xlog", "--data", csv, "--out", picture, input_}),
-            0)
-      << err_.str();
-  EXPECT_EQ(QImage(QString::fromStdString(picture)).size(), QSize(768, 576));
-  ASSERT_EQ(Run({"--figures", input_}), 0);
-  std::istringstream figures(out_.str()), table(ReadFile(csv));
-  std::string line;
-  std::getline(figures, line);
-  std::getline(table, line);
-  EXPECT_EQ(line, "f_Hz,MSG_or_MAG_dB (dut.s2p),U_dB (dut.s2p),MUG_dB (dut.s2p),S21sq_dB (dut.s2p)");
-  int rows = 0;
-  for (std::string row; std::getline(figures, line) && std::getline(table, row); ++rows) {
-    std::vector<std::string> f;
-    std::istringstream cells(line);
-    for (std::string cell; std::getline(cells, cell, ',');) f.push_back(cell);
-    // f_Hz, MSG_or_MAG_dB, U_dB, MUG_dB, S21sq_dB of the figures' twelve columns
-    EXPECT_EQ(row, f[0] + "," + f[6] + "," + f[8] + "," + f[7] + "," + f[10]);
-  }
-  EXPECT_EQ(rows, 19);
-}
-
+// The curve table of a frequency view holds, point for point, the numbers of netrix --figures.
 TEST_F(RenderCommandTest, StabilityCurvesAreTheFiguresColumns) {
   const std::string csv = Path("k.csv");
-  ASSERT_EQ(Run({"--render", "stability", "--curves", "mu,k", "--data", csv, "--out", Path("k.png"), input_}), 0)
+  ASSERT_EQ(Run({"--render", "stability", "--curves", "mu,k", "--xlog", "--data", csv, "--out", Path("k.png"), input_}),
+            0)
       << err_.str();
   ASSERT_EQ(Run({"--figures", input_}), 0);
   std::istringstream figures(out_.str()), table(ReadFile(csv));
@@ -148,12 +96,7 @@ TEST_F(RenderCommandTest, ReflectionMagnitudeTable) {
                  input_}),
             0)
       << err_.str();
-  std::istringstream table(ReadFile(csv));
-  std::string header, first;
-  std::getline(table, header);
-  std::getline(table, first);
-  EXPECT_EQ(header, "f_Hz,|S22| (dut.s2p)");
-  EXPECT_EQ(first, "100000000,0.8");
+  EXPECT_EQ(ReadFile(csv).rfind("f_Hz,|S22| (dut.s2p)\n100000000,0.8\n", 0), 0U) << ReadFile(csv);
 }
 
 struct ErrorCase {
@@ -186,14 +129,12 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorCase{"render_five_files", "--render polar --out % @ @ @ @ @", "no more than 4 files"},
         ErrorCase{"render_no_out", "--render smith @", "--out PATH is missing"},
         ErrorCase{"render_bad_size", "--render smith --size 800 --out % @", "--size needs WIDTHxHEIGHT"},
-        ErrorCase{"render_bad_chart", "--render smith --chart x --out % @", "--chart takes z, y or zy"},
         ErrorCase{"render_bad_q", "--render smith --q many --out % @", "--q needs a number"},
         ErrorCase{"render_seven_q", "--render smith --q 1 --q 2 --q 3 --q 4 --q 5 --q 6 --q 7 --out % @", "at most six --q arcs"},
         ErrorCase{"render_option_without_value", "--render smith @ --out", "--out needs a value"},
         ErrorCase{"render_unknown_option", "--render smith --colour --out % @", "unknown option \"--colour\""},
         ErrorCase{"render_gain_option_elsewhere", "--render polar --xlog --out % @", "belong to the gain, stability and impedance views"},
         ErrorCase{"render_mode_elsewhere", "--render stability --mode q --out % @", "--mode belongs to the reflection, transmission and impedance views"},
-        ErrorCase{"render_bad_mode", "--render impedance --mode abs --out % @", "--mode takes mag, re or q"},
         ErrorCase{"render_smith_transmission", "--render transmission --mode smith --out % @", "has no Smith chart"},
         ErrorCase{"render_wrong_param", "--render reflection --param s21 --out % @", "--param takes s11, s22 or both"},
         ErrorCase{"render_circles_elsewhere", "--render polar --circles 2G --out % @", "belong to the reflection view"},
@@ -201,22 +142,12 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorCase{"render_view_missing", "--render --out % @", "the view comes first"},
         // The views of a bias series take the options of --series.
         ErrorCase{"series_render_no_out", "--render ft-fmax @", "--out PATH is missing"},
-        ErrorCase{"series_render_no_file", "--render ft-fmax --out %", "name the files of the bias series"},
-        ErrorCase{"series_render_size_without_value", "--render ft-fmax --out % @ --size", "--size needs a value"},
         ErrorCase{"series_render_bad_series_option", "--render ft-fmax --fo high --out % @", "--fo needs a number"},
-        ErrorCase{"series_render_unknown_extension", "--render ft-fmax --out x.tif @", "end the name in .png"},
         ErrorCase{"series_unknown_option", "--series --fast a.s2p", "netrix --series: unknown option --fast"},
-        ErrorCase{"series_missing_value", "--series a.s2p --fo", "--fo needs a value"},
         ErrorCase{"series_zero_area", "--series --area 0 a.s2p", "--area is the transistor area"},
         ErrorCase{"series_lower_case_multiplier", "--series --multiplier mhz a.s2p", "--multiplier takes Hz, MHz or GHz"},
-        ErrorCase{"series_unknown_x_axis", "--series --x-axis vce a.s2p", "--x-axis takes ic, id or fileno"},
         ErrorCase{"figures_no_file", "--figures", "needs at least one file or folder name"}),
     [](const testing::TestParamInfo<ErrorCase>& info) { return std::string(info.param.name); });
-
-TEST_F(RenderCommandTest, AnUnwritableFolderIsReported) {
-  EXPECT_EQ(Run({"--render", "smith", "--out", Path("missing/smith.png"), input_}), 1);
-  EXPECT_NE(err_.str().find("Cannot write the picture"), std::string::npos) << err_.str();
-}
 
 }  // namespace
 }  // namespace app

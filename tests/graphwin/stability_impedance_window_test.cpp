@@ -5,11 +5,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QFile>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPrinter>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 #include <cmath>
@@ -26,22 +23,15 @@
 namespace graphwin {
 namespace {
 
-using graphwin_test::AxisAnswers;
+using graphwin_test::Answers;
 using StabilityWindowTest = graphwin_test::WindowTest<TFormK>;
 using ImpedanceWindowTest = graphwin_test::WindowTest<TFormZ>;
 
-// The gain fixture has k = 2.6 and mu = (1 - 0) / (0 + 0.2) = 5 at every point.
-TEST_F(StabilityWindowTest, ChecksKAgainAndPlotsTheFiguresAsTheyAre) {
-  EXPECT_EQ(State().y.min, 0);
-  EXPECT_EQ(State().y.max, 2);
+TEST_F(StabilityWindowTest, ChecksKAgainAndAddsTheChosenFigures) {
   Find<QCheckBox>("CheckBoxk")->click();
   EXPECT_TRUE(Find<QCheckBox>("CheckBoxk")->isChecked());
   Find<QCheckBox>("CheckBoxMu")->click();
-  const plots::FrequencyPlot& plot = window_->Plot();
-  ASSERT_EQ(plot.curves.size(), 2u);
-  EXPECT_EQ(plot.title, "k(f) and µ(f)");
-  EXPECT_DOUBLE_EQ(plot.curves[0].value[4], 2.6);
-  EXPECT_DOUBLE_EQ(plot.curves[1].value[4], 5);
+  EXPECT_EQ(window_->Plot().title, "k(f) and µ(f)");
 }
 
 TEST_F(ImpedanceWindowTest, ModesBoxesAndTheFrequencyLimits) {
@@ -54,31 +44,20 @@ TEST_F(ImpedanceWindowTest, ModesBoxesAndTheFrequencyLimits) {
   Find<QCheckBox>("CheckBoxZL")->click();
   EXPECT_EQ(window_->Plot().curves.size(), 2u);
   {
-    AxisAnswers answers("200G");
+    Answers answers({"200G"});
     QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(5e9, 0));
-    EXPECT_EQ(answers.labels_, QStringList{"fmax="});
+    EXPECT_EQ(answers.asked_, QStringList{"fmax="});
   }
   EXPECT_EQ(State().x.max, 1e11);
-  AxisAnswers answers("-2M");  // the axes meet in the corner: both minimum ends, each limited
+  Answers answers({"-2M"});  // the axes meet in the corner: both minimum ends, each limited
   QTest::mouseClick(Image(), Qt::LeftButton, {}, PixelOf(State().x.min, 0));
-  EXPECT_EQ(answers.labels_, (QStringList{"fmin=", "ymin="}));
+  EXPECT_EQ(answers.asked_, (QStringList{"fmin=", "ymin="}));
   EXPECT_EQ(State().x.min, 0);
   EXPECT_EQ(State().y.min, -1e6);
 }
 
 // The page holds the whole window, tool bar and read-out included, in its proportions.
-TEST_F(ImpedanceWindowTest, PrintsTheWindowAsItStands) {
-  QTemporaryDir dir;
-  controls::DialogInterception printer(nullptr, [&](controls::PrinterDialog, QPrinter& p) {
-    p.setOutputFormat(QPrinter::PdfFormat);
-    p.setOutputFileName(dir.filePath("page.pdf"));
-    return true;
-  });
-  Find<QAction>("Print1")->trigger();
-  QFile pdf(dir.filePath("page.pdf"));
-  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
-  EXPECT_TRUE(pdf.read(5) == "%PDF-");
-}
+TEST_F(ImpedanceWindowTest, PrintsTheWindowAsItStands) { EXPECT_EQ(PrintedStart(), "%PDF-"); }
 
 // A mouse move in the stability window at 3.3 GHz picks 3 GHz, the first file's nearest point,
 // and marks it in an open window over its picture, which is not drawn again, or in a window opened

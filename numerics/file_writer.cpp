@@ -1,4 +1,4 @@
-#include "atomic_file.h"
+#include "file_writer.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <vector>
 
-namespace app {
+namespace numerics {
 namespace {
 
 // The permissions an ordinary new file gets; mkstemp alone would leave it private.
@@ -20,7 +20,7 @@ mode_t NewFileMode() {
   return 0666 & ~mask;
 }
 
-bool WriteAll(int fd, const std::string& content) {
+bool WriteAll(int fd, std::string_view content) {
   std::size_t written = 0;
   while (written < content.size()) {
     const ssize_t n = write(fd, content.data() + written, content.size() - written);
@@ -50,14 +50,10 @@ std::filesystem::path FinalTarget(const std::string& path) {
   return target;
 }
 
-std::string Failure(const std::string& path, int reason) {
-  return "Cannot write " + path + ": " + std::strerror(reason) + ". Nothing was written; check the path and the free "
-         "space.";
-}
+FileWriteOutcome Failure(int reason) { return {std::strerror(reason)}; }
 
 // A device or a pipe is written as it is; it has no content to keep.
-bool WriteDirectly(const std::filesystem::path& target, const std::string& path, const std::string& content,
-                   std::string& error) {
+FileWriteOutcome WriteDirectly(const std::filesystem::path& target, std::string_view content) {
   const int fd = open(target.c_str(), O_WRONLY | O_CLOEXEC);
   bool ok = fd >= 0 && WriteAll(fd, content);
   int reason = errno;
@@ -65,25 +61,21 @@ bool WriteDirectly(const std::filesystem::path& target, const std::string& path,
     ok = false;
     reason = errno;
   }
-  if (!ok) error = Failure(path, reason);
-  return ok;
+  return ok ? FileWriteOutcome{} : Failure(reason);
 }
 
 }  // namespace
 
-bool WriteFileAtomically(const std::string& path, const std::string& content, std::string& error) {
+FileWriteOutcome WriteFileAtomically(const std::string& path, std::string_view content) {
   const std::filesystem::path target = FinalTarget(path);
   struct stat existing {};
   const bool exists = stat(target.c_str(), &existing) == 0;
-  if (exists && !S_ISREG(existing.st_mode)) return WriteDirectly(target, path, content, error);
+  if (exists && !S_ISREG(existing.st_mode)) return WriteDirectly(target, content);
   std::string pattern = TemporaryPattern(target);
   std::vector<char> name(pattern.begin(), pattern.end());
   name.push_back('\0');
   const int fd = mkstemp(name.data());
-  if (fd < 0) {
-    error = "Cannot write " + path + ": " + std::strerror(errno) + ". Choose a folder you may write to.";
-    return false;
-  }
+  if (fd < 0) return {std::strerror(errno), true};
   // An existing file keeps its permissions; a new one gets those of any new file.
   const mode_t mode = exists ? existing.st_mode & 07777 : NewFileMode();
   bool ok = fchmod(fd, mode) == 0 && WriteAll(fd, content) && fsync(fd) == 0;
@@ -96,10 +88,9 @@ bool WriteFileAtomically(const std::string& path, const std::string& content, st
     ok = false;
     reason = errno;
   }
-  if (ok) return true;
+  if (ok) return {};
   unlink(name.data());
-  error = Failure(path, reason);
-  return false;
+  return Failure(reason);
 }
 
-}  // namespace app
+}  // namespace numerics
