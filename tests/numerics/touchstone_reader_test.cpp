@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "numerics/reader_core.h"
 #include "textbook.h"
@@ -86,49 +87,39 @@ TEST(TouchstoneReader, ReadsVersion1LayoutsAndLeavesTheNoiseBlockOut) {
   EXPECT_TRUE(data.hasOptionLine);
   EXPECT_EQ(data.frequencyUnit, 1e6);  // a second option line is passed over
   EXPECT_EQ(data.noisePoints, 2);
-  ASSERT_EQ(data.frequency.size(), 2U);
-  const SParameters second = TouchstoneScattering(data, 1, 50, "v1.s2p");
-  EXPECT_EQ(second.s[1][0].first, 13);
-  EXPECT_EQ(second.s[1][0].second, 158);
+  EXPECT_EQ(data.frequency, (std::vector<double>{40, 100}));
 }
 
 TEST(TouchstoneReader, FailuresNameTheFileTheLineAndWhatWasExpected) {
   const std::string v2 = "[Version] 2.0\n# GHz\n";
-  const struct {
-    std::string content;
-    const char* fileName;
-    const char* expected;  // the start of the message behind "File NAME"
-  } cases[] = {
-      {"! c\n# GHz\n1 .5 0 2 0 .1 0 .5 0\n2 .5 0 2 0 x 0 .5 0\n", "a.s2p",
-       ", line 4: \"x\" is not a number. A two-port record holds a frequency and eight numbers"},
-      {"# GHz S MA R 50 X\n", "a.s2p", ", line 1: \"X\" is not an option of the \"#\" line"},
-      {"# R\n", "a.s2p", ", line 1: R needs the reference resistance"},
-      {"1 .5 0 2 0 .1 0 .5 0\n\n2 .5 0 2\n", "a.s2p",
-       ", line 3: the record that starts on this line holds only 4 of its 9 numbers."},
-      {v2 + "[Network Data]\n2 .5 0 2 0 .1 0 .5 0\n1 .5 0 2 0 .1 0 .5 0\n", "a.ts",
-       ", line 5: the frequency 1 does not lie above the one before it"},
-      {v2 + "[Number of Frequencies] 2\n[Network Data]\n1 .5 0 2 0 .1 0 .5 0\n[End]", "a.ts",
-       ", line 3: [Number of Frequencies] announces 2 frequencies, but the file holds 1."},
-      {v2 + "[Number of Ports] 4\n", "a.ts", ", line 3: the file describes 4 ports"},
-      {"1 .5 0 2 0 .1 0 .5 0\n", "a.S4P", " is a Touchstone file of 4 ports"},
-      {"# GHz\n[Network Data]\n", "a.s2p", ", line 2: [Network Data] needs a line \"[Version] 2.0\" before it."},
-      {v2 + "[Mixed-Mode Order] D2,1\n", "a.ts",
-       ", line 3: [Mixed-Mode Order] is not a keyword of a two-port Touchstone file."},
-      {"[Version 2.0\n", "a.ts", ", line 1: the keyword [Version 2.0 lacks its closing"},
-      {v2 + "[Reference] 50\n[Network Data]\n", "a.ts", ", line 4: [Reference] needs one"},
-      {v2 + "[Number of Frequencies] 2.5\n", "a.ts", ", line 3: [Number of Frequencies] needs a whole number"},
-      {v2 + "[Matrix Format] Lower\n", "a.ts", ", line 3: [Matrix Format] Lower is not read"},
-      {v2 + "1 .5 0 2 0 .1 0 .5 0\n", "a.ts", ", line 3: numbers stand before [Network Data]"},
+  const std::pair<std::string, std::string> cases[] = {  // content, and the start of the message behind "File "
+      {"! c\n# GHz\n1 .5 0 2 0 .1 0 .5 0\n2 .5 0 2 0 x 0 .5 0\n", "a.s2p, line 4: \"x\" is not a number."},
+      {"# GHz S MA R 50 X\n", "a.s2p, line 1: \"X\" is not an option of the \"#\" line"},
+      {"# R\n", "a.s2p, line 1: R needs the reference resistance"},
+      {"1 .5 0 2 0 .1 0 .5 0\n\n2 .5 0 2\n", "a.s2p, line 3: the record that starts on this line holds only 4 of"},
+      {v2 + "[Network Data]\n2 .5 0 2 0 .1 0 .5 0\n1 .5 0 2 0 .1 0 .5 0\n", "a.ts, line 5: the frequency 1 does not"},
+      {v2 + "[Number of Frequencies] 2\n[Network Data]\n1 .5 0 2 0 .1 0 .5 0\n[End]",
+       "a.ts, line 3: [Number of Frequencies] announces 2 frequencies, but the file holds 1."},
+      {v2 + "[Number of Ports] 4\n", "a.ts, line 3: the file describes 4 ports"},
+      {"1 .5 0 2 0 .1 0 .5 0\n", "a.S4P is a Touchstone file of 4 ports"},
+      {"# GHz\n[Network Data]\n", "a.s2p, line 2: [Network Data] needs a line \"[Version] 2.0\" before it."},
+      {v2 + "[Mixed-Mode Order] D2,1\n", "a.ts, line 3: [Mixed-Mode Order] is not a keyword of a two-port"},
+      {"[Version 2.0\n", "a.ts, line 1: the keyword [Version 2.0 lacks its closing"},
+      {v2 + "[Reference] 50\n[Network Data]\n", "a.ts, line 4: [Reference] needs one"},
+      {v2 + "[Number of Frequencies] 2.5\n", "a.ts, line 3: [Number of Frequencies] needs a whole number"},
+      {v2 + "[Matrix Format] Lower\n", "a.ts, line 3: [Matrix Format] Lower is not read"},
+      {v2 + "1 .5 0 2 0 .1 0 .5 0\n", "a.ts, line 3: numbers stand before [Network Data]"},
       // z = -I has no S-parameters: z + I is singular.
-      {"# Z RI\n1 -1 0 0 0 0 0 -1 0\n", "a.s2p", ", line 2: this record gives no finite S-parameters"},
-      {"! only a comment\n# GHz S MA R 50\n", "a.s2p", " holds no network data."}};
-  for (const auto& c : cases) {
+      {"# Z RI\n1 -1 0 0 0 0 0 -1 0\n", "a.s2p, line 2: this record gives no finite S-parameters"},
+      {"! only a comment\n# GHz S MA R 50\n", "a.s2p holds no network data."}};
+  for (const auto& [content, expected] : cases) {
+    const std::string fileName = expected.substr(0, expected.find_first_of(", "));
     try {
-      const TouchstoneData data = ReadTouchstone(c.content, c.fileName);
-      for (std::size_t i = 0; i < data.frequency.size(); ++i) TouchstoneScattering(data, i, 50, c.fileName);
-      ADD_FAILURE() << "no failure: " << c.expected;
+      const TouchstoneData data = ReadTouchstone(content, fileName);
+      for (std::size_t i = 0; i < data.frequency.size(); ++i) TouchstoneScattering(data, i, 50, fileName);
+      ADD_FAILURE() << "no failure: " << expected;
     } catch (const ReadFailure& failure) {
-      EXPECT_EQ(failure.message.rfind("File " + std::string(c.fileName) + c.expected, 0), 0U) << failure.message;
+      EXPECT_EQ(failure.message.rfind("File " + expected, 0), 0U) << failure.message;
     }
   }
 }

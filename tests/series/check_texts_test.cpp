@@ -7,14 +7,9 @@ namespace {
 
 // A file whose fmax came from MSG, falling at 10 dB per decade, in a sweep that ends above 0 dB.
 FileFigures MsgFile() {
-  FileFigures file;
-  file.fT = 3.52e9;
-  file.fmax = 6.38e9;
-  file.check.made = true;
-  file.check.k = 0.296;
-  file.check.fmaxFromMsg = true;
-  file.check.fT = {-19.774, 3.61e9, false, false};
-  file.check.fmax = {-9.886, std::nullopt, true, false};
+  FileFigures file{.fT = 3.52e9, .fmax = 6.38e9};
+  file.check = {.made = true, .k = 0.296, .fmaxFromMsg = true, .fT = {-19.774, 3.61e9, false, false},
+                .fmax = {-9.886, std::nullopt, true, false}};
   return file;
 }
 
