@@ -16,7 +16,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <cstdlib>
 #include <string>
 
 #include "controls/dialog_hooks.h"
@@ -159,13 +158,3 @@ void BM_MoveFrequencyCursorAllWindows(benchmark::State& state) {
 BENCHMARK(BM_MoveFrequencyCursorAllWindows)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  if (!std::getenv("DISPLAY")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication application(argc, argv);
-  mainwin::InitialiseApplication();
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}

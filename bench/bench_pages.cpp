@@ -10,7 +10,6 @@
 #include <QStringList>
 #include <QTabBar>
 #include <QTemporaryDir>
-#include <cstdlib>
 #include <string>
 
 #include "diagram/canvas.h"
@@ -81,13 +80,3 @@ void BM_DropFortyFilesWithAutoCalculate(benchmark::State& state) {
 BENCHMARK(BM_DropFortyFilesWithAutoCalculate)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  if (!std::getenv("DISPLAY")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication application(argc, argv);
-  mainwin::InitialiseApplication();
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}

@@ -32,6 +32,7 @@ class CommandLineRulesTest : public CommandTest, public testing::WithParamInterf
     Write("ro.spa", "kept\n");
     fs::permissions(Path("ro.spa"), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
     Write("nan.s2p", "! Ic=1m\n1000 1e999 0 2 0 0.25 0 0 0\n");
+    Write("cut.s2p", "! Ic=1m\n1000 0 0 2 0 0.25\n");
     Write("fall.s2p", "title\n2G 0 0 2 0 0.25 0 0 0\n3G 0 0 2 0 0.25 0 0 0\n1G 0 0 2 0 0.25 0 0 0\n");
   }
 
@@ -69,6 +70,9 @@ INSTANTIATE_TEST_SUITE_P(
                  "1 row of nan.s2p holds values that are not finite numbers (nan or inf), the first at 1000 Hz"},
         RuleCase{"NotesGoToStandardError", "{netrix} --figures fall.s2p > out.csv", 0,
                  "stopped at line 4: the frequency does not rise; 1 line not read."},
+        RuleCase{"SeriesFileTooLargeIsNotCut", "truncate -s 65M big.s2p && {netrix} --series big.s2p", 1,
+                 "big.s2p cannot be read (larger than 64 MiB"},
+        RuleCase{"SeriesRecordCutByTheEnd", "{netrix} --series cut.s2p", 1, "line 2: the file ends within this record"},
         RuleCase{"DeviceAsAFile", "{netrix} --figures /dev/zero", 1, "/dev/zero cannot be read (a device, not a regular"},
         RuleCase{"WindowWithoutDisplay", "env -u DISPLAY -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb {netrix} a.s2p", 1,
                  "no display could be reached (DISPLAY is not set)"}),
